@@ -1,0 +1,51 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+namespace korventally {
+
+/// Slots 1 to 50 hold source groups; slot 0 is never used.
+inline constexpr std::size_t kGroupSlots = 51;
+/// A case always has the all-sources and the facility group, and at most 48 OTHER groups.
+inline constexpr std::int32_t kFixedGroups = 2;
+inline constexpr std::int32_t kMostOtherGroups = 48;
+
+/// The regulatory case being prepared. Every step of the wizard fills its part, the run reads it.
+/// Values are text as the user typed it, up to the control file. Concentrations are in ug/m**3.
+struct AnalysisCase {
+  std::string WorkDir;            ///< working directory, ends with "\"
+  std::string AreaClass;          ///< "Class I" or "Class II"
+  std::string Standard;           ///< "NAAQS" or "PSD"
+  std::string Species;            ///< "SO2", "PM10" or "NOX"
+  std::string AveragingHours;     ///< "3", "24", or for annual "8760" or "8784" (leap start year)
+  std::string AmbientBackground;  ///< constant background in ug/m**3; "0" when none was given
+  std::int32_t GroupCount = 0;    ///< source groups in use, 2 to 50
+  std::array<std::string, kGroupSlots> GroupConcFiles;  ///< path of each group's concentrations
+  std::array<std::string, kGroupSlots> GroupNames;      ///< name of each group, 13 characters
+  std::string ReceptorFormat;  ///< "1" generic X,Y,ID file, "2" TOLVREN output ranked file
+  std::string ReceptorFile;    ///< path of the receptor file
+  std::string StartYear;       ///< four digits
+  std::string StartMonth;      ///< two digits, as are day and hour
+  std::string StartDay;
+  std::string StartHour;
+  std::string RunLength;      ///< hours, up to 6 digits
+  std::string Rank1Flag;      ///< "T": each receptor's highest value is left out, "F": it counts
+  std::string ListFile;       ///< name of the engine's list file in `WorkDir`, exactly as typed
+  std::string StandardLimit;  ///< NAAQS standard or PSD increment, ug/m**3
+  std::string SilLimit;       ///< significant impact level, ug/m**3
+  bool DebugMode = false;     ///< keeps the run's files and shows the engine's console
+};
+
+/// The one case of the process.
+namespace basModule {
+extern AnalysisCase analysisCase;
+}
+
+/// Prepares the case when the program starts: the default names of all groups. Returns the default
+/// working directory from `Movrix.cfg` in the installation directory, or the empty text when the
+/// file is missing, unreadable or names none.
+std::string initialiseCase();
+
+}  // namespace korventally

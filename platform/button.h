@@ -1,0 +1,33 @@
+#pragma once
+
+#include <utility>
+
+#include "platform/container.h"
+
+namespace korventally {
+
+/// A push button.
+class Button : public Control {
+ public:
+  /// kGraphical buttons show their background colour, standard ones never do.
+  enum class Style { kStandard, kGraphical };
+
+  Button(Container& container, Rect place, std::string caption, Font font = fonts::kDefault,
+         Style style = Style::kStandard)
+      : Control(Kind::kButton, &container, place, font), style_(style) {
+    text_ = std::move(caption);
+    backColor_ = colors::kButtonFace;
+  }
+
+  Style style() const { return style_; }
+
+  /// The person presses the button. Does nothing on an unusable one.
+  void press() {
+    if (usable()) raise(onClick);
+  }
+
+ private:
+  Style style_;
+};
+
+}  // namespace korventally

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <utility>
+
+#include "platform/container.h"
+
+namespace korventally {
+
+/// A box to tick.
+class CheckBox : public Control {
+ public:
+  CheckBox(Container& container, Rect place, std::string caption = {}, bool checked = false,
+           Font font = fonts::kDefault)
+      : Control(Kind::kCheckBox, &container, place, font), checked_(checked) {
+    text_ = std::move(caption);
+  }
+
+  bool checked() const { return checked_; }
+  void setChecked(bool checked) {
+    if (checked_ == checked) return;
+    checked_ = checked;
+    changed(Aspect::kValue);
+  }
+
+  /// The person ticks or unticks the box. Does nothing on an unusable one.
+  void press() {
+    if (!usable()) return;
+    setChecked(!checked_);
+    raise(onClick);
+  }
+
+ private:
+  bool checked_;
+};
+
+}  // namespace korventally

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+
+namespace korventally {
+
+/// Milliseconds since the system started; wraps round after 2^32.
+std::uint32_t tickCount();
+
+/// Handles everything that the person and the system have in store for the windows, and what is due
+/// of `runLater`, then hands the rest of the time slice to other processes. Handlers of any window
+/// may run inside.
+void processPendingEvents();
+
+/// Handles events, sleeping in between, for as long as `goOn` says so. A request to quit closes
+/// every window.
+void runEventsWhile(const std::function<bool()>& goOn);
+
+/// While one exists, this thread runs below normal priority, so that a busy wait does not cost the
+/// process that is waited for.
+class BelowNormalPriority {
+ public:
+  BelowNormalPriority();
+  ~BelowNormalPriority();
+  BelowNormalPriority(const BelowNormalPriority&) = delete;
+  BelowNormalPriority& operator=(const BelowNormalPriority&) = delete;
+};
+
+}  // namespace korventally

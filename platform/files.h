@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/result.h"
+
+namespace korventally {
+
+/// Paths are UTF-8 with backslashes. A relative path counts from the current directory.
+
+/// Whether an ordinary file of that name exists: no folder, not hidden, not of the system. Wildcard
+/// characters never match.
+bool fileExists(const std::string& path);
+
+/// Whether the folder, given with its final backslash, exists and lists at least one entry. Every
+/// folder but the root of a drive lists itself.
+bool folderListsEntries(const std::string& path);
+
+/// Deletes a file. Deleting one that is not there fails with kNotFound.
+Status deleteFile(const std::string& path);
+
+/// Creates or replaces a text file: the lines in the ANSI code page, each ended by CR LF. Succeeds
+/// only when every byte was accepted, flushed and the file closed. A character that the code page
+/// lacks is an error that names the text, and the file is left untouched.
+Status writeTextFile(const std::string& path, const std::vector<std::string>& lines);
+
+/// A file open for reading, with reading, writing and deleting left to everybody else.
+class FileReader {
+ public:
+  virtual ~FileReader() = default;
+  /// Reads on from where the last read ended. Returns the number of bytes; 0 at the end.
+  virtual Result<std::size_t> read(std::span<char> buffer) = 0;
+};
+Result<std::unique_ptr<FileReader>> openForReading(const std::string& path);
+
+/// Text in the system's ANSI code page as UTF-8, and back; an error (kNotAnsi) when a character is
+/// lacking, never a look-alike.
+std::string fromAnsi(std::string_view bytes);
+Result<std::string> toAnsi(std::string_view text);
+
+}  // namespace korventally

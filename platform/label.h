@@ -1,0 +1,27 @@
+#pragma once
+
+#include <utility>
+
+#include "platform/container.h"
+
+namespace korventally {
+
+enum class Align { kLeft, kRight, kCentre };
+
+/// Static text, wrapped at its width.
+class Label : public Control {
+ public:
+  Label(Container& container, Rect place, std::string caption = {}, Align align = Align::kLeft,
+        Font font = fonts::kDefault, OleColor color = colors::kWindowText)
+      : Control(Kind::kLabel, &container, place, font), align_(align) {
+    text_ = std::move(caption);
+    foreColor_ = color;
+  }
+
+  Align align() const { return align_; }
+
+ private:
+  Align align_;
+};
+
+}  // namespace korventally

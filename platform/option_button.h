@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+
+#include "platform/container.h"
+
+namespace korventally {
+
+/// One of several choices. The option buttons of one container exclude each other.
+class OptionButton : public Control {
+ public:
+  OptionButton(Container& container, Rect place, std::string caption, bool selected = false,
+               Font font = fonts::kDefault, OleColor color = colors::kWindowText);
+
+  bool selected() const { return selected_; }
+  /// Selects this option and deselects its siblings.
+  void select();
+
+  /// The person selects the option. Does nothing on an unusable one.
+  void press();
+  /// The person moves the selection with an arrow key: the next (or previous) usable option of the
+  /// container, round its ends, is selected and takes the focus.
+  void moveSelection(bool forward);
+
+ private:
+  void setSelected(bool selected);
+
+  bool selected_;
+};
+
+}  // namespace korventally

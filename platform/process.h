@@ -1,0 +1,31 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "platform/result.h"
+
+namespace korventally {
+
+/// The folder of the running program; no final backslash, except for the root of a drive.
+std::string installationDirectory();
+
+enum class WindowStyle { kHidden, kNormalFocus };
+
+/// The command interpreter that reads a batch file, with every process that it starts. Dropping it
+/// leaves them running.
+class BatchRun {
+ public:
+  virtual ~BatchRun() = default;
+  /// Whether any process of the run is left.
+  virtual bool running() = 0;
+  /// Ends all of them.
+  virtual void terminate() = 0;
+};
+
+/// Starts a batch file, given by its full path, through the system's command interpreter, and does
+/// not wait for it. The interpreter reads the file in the ANSI code page, runs no AutoRun commands
+/// and looks for no program in the current directory.
+Result<std::unique_ptr<BatchRun>> startBatchFile(const std::string& path, WindowStyle style);
+
+}  // namespace korventally

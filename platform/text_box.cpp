@@ -1,0 +1,24 @@
+#include "platform/text_box.h"
+
+#include <utility>
+
+namespace korventally {
+namespace {
+
+constexpr std::int16_t kEnter = 13;
+
+}  // namespace
+
+TextBox::TextBox(Container& container, Rect place, std::string text, int limit, Font font)
+    : Control(Kind::kTextBox, &container, place, font), limit_(limit) {
+  text_ = std::move(text);
+}
+
+bool TextBox::acceptsKey(std::int16_t keyCode) {
+  raise([&] {
+    if (onKeyPress) onKeyPress(keyCode);
+  });
+  return keyCode != 0 && keyCode != kEnter;
+}
+
+}  // namespace korventally

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+
+#include "platform/container.h"
+
+namespace korventally {
+
+/// A single line of text to type.
+class TextBox : public Control {
+ public:
+  /// `limit` is the most characters that a person can type or paste; 0 for no limit. Text set from
+  /// code is never cut.
+  TextBox(Container& container, Rect place, std::string text = {}, int limit = 0,
+          Font font = fonts::kDefault);
+
+  int limit() const { return limit_; }
+  bool isEmpty() const { return text().empty(); }
+
+  /// Sees every character before it reaches the box, with Enter as 13 and Backspace as 8; setting
+  /// the code to 0 discards the keystroke.
+  std::function<void(std::int16_t& keyCode)> onKeyPress;
+
+  /// Whether a file or a folder can be named in the box: a path pasted in quotes loses them, and a
+  /// file dropped on the box fills it.
+  bool takesPath() const { return takesPath_; }
+  void setTakesPath() { takesPath_ = true; }
+
+  /// Marks the whole text, so that typing replaces it.
+  void selectAll() { changed(Aspect::kSelection); }
+
+  /// A keystroke of the person's: runs `onKeyPress` and says whether the character may reach the
+  /// box. Enter never does, since the box is a single line.
+  bool acceptsKey(std::int16_t keyCode);
+  /// The person has edited the text; the view shows it already.
+  void edited(std::string text) { text_ = std::move(text); }
+
+ private:
+  int limit_;
+  bool takesPath_ = false;
+};
+
+}  // namespace korventally

@@ -1,0 +1,101 @@
+#include "platform/window.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/events.h"
+#include "platform/option_button.h"
+
+namespace korventally {
+namespace {
+
+std::vector<Window*>& mutableOpenWindows() {
+  static std::vector<Window*> windows;
+  return windows;
+}
+
+bool isTabStop(const Control& control) {
+  if (!control.usable()) return false;
+  if (control.kind() != Control::Kind::kOptionButton) return true;
+  return static_cast<const OptionButton&>(control).selected();
+}
+
+}  // namespace
+
+Window::Window(std::string caption, Size clientSize)
+    : Container(Kind::kFrame, nullptr, {0, 0, clientSize.width, clientSize.height},
+                fonts::kDefault) {
+  text_ = std::move(caption);
+}
+
+Window::~Window() { unload(); }
+
+const std::vector<Window*>& Window::openWindows() { return mutableOpenWindows(); }
+
+void Window::show(Window* owner) {
+  focused_ = nullptr;
+  Form_Load();
+  open_ = true;
+  mutableOpenWindows().push_back(this);
+  view_ = createWindowView(*this, owner);
+  moveFocus();
+  runEventsWhile([this] { return open_; });
+  view_.reset();
+}
+
+void Window::unload() {
+  if (!open_) return;
+  Form_Unload();
+  open_ = false;
+  std::erase(mutableOpenWindows(), this);
+  view_->close();
+}
+
+void Window::requestClose() {
+  if (open_ && queryUnload()) unload();
+}
+
+void Window::unloadAll() {
+  while (!openWindows().empty()) openWindows().back()->unload();
+}
+
+void Window::setFocus(Control& control) {
+  if (!control.usable()) return;
+  focusMovedTo(control);
+  if (open_ && view_) view_->setFocus(control);
+}
+
+void Window::moveFocus(bool forward) {
+  if (Control* next = nextInTabOrder(focused_, forward)) setFocus(*next);
+}
+
+void Window::settleFocus() {
+  if (open_ && focused_ != nullptr && !focused_->usable()) moveFocus();
+}
+
+void Window::focusMovedTo(Control& control) {
+  if (&control == focused_) return;
+  Control* left = std::exchange(focused_, &control);
+  if (left != nullptr && left->onLostFocus) left->onLostFocus();
+  if (control.onGotFocus) control.onGotFocus();
+}
+
+void Window::controlChanged(const Control& control, Aspect aspect) {
+  if (open_ && view_) view_->refresh(control, aspect);
+}
+
+void Window::announce(const Control& control) {
+  if (open_ && view_) view_->announce(control);
+}
+
+Control* Window::nextInTabOrder(const Control* from, bool forward) const {
+  std::vector<Control*> order = tabOrder_;
+  if (!forward) std::reverse(order.begin(), order.end());
+  const auto at = std::find(order.begin(), order.end(), from);
+  if (at != order.end()) std::rotate(order.begin(), at + 1, order.end());
+  const auto next = std::find_if(order.begin(), order.end(),
+                                 [](const Control* control) { return isTabStop(*control); });
+  return next == order.end() ? nullptr : *next;
+}
+
+}  // namespace korventally
