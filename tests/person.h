@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "platform/text_box.h"
 #include "platform/window.h"
 
 namespace korventally::testing {
