@@ -56,7 +56,11 @@ Status OpenFileInNotepad(const std::string& directory, const std::string& fileNa
 /// Text without its leading and trailing blanks (character 32 only).
 std::string trimBlanks(std::string_view text);
 
-/// A path as a batch file must spell it inside quotes: the command interpreter halves "%".
+/// A file of a folder that is named with or without its final backslash.
+std::string joinPath(const std::string& folder, const std::string& name);
+
+/// A path in double quotes as a batch file must spell it: "%" is doubled, because the command
+/// interpreter halves it.
 std::string batchQuoted(const std::string& path);
 
 }  // namespace korventally

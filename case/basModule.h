@@ -48,4 +48,7 @@ extern AnalysisCase analysisCase;
 /// file is missing, unreadable or names none.
 std::string initialiseCase();
 
+/// The default name of the OTHER group in a slot from 3 to 50: slot 3 is OTHER_1.
+std::string defaultOtherName(std::int32_t slot);
+
 }  // namespace korventally

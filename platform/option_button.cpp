@@ -32,6 +32,16 @@ void OptionButton::select() {
   for (OptionButton* option : optionsOf(*container())) option->setSelected(option == this);
 }
 
+bool OptionButton::standsForGroup() const {
+  const OptionButton* firstUsable = nullptr;
+  for (const OptionButton* option : optionsOf(*container())) {
+    if (!option->usable()) continue;
+    if (option->selected()) return option == this;
+    if (firstUsable == nullptr) firstUsable = option;
+  }
+  return firstUsable == this;
+}
+
 void OptionButton::press() {
   if (!usable()) return;
   select();

@@ -16,6 +16,10 @@ class OptionButton : public Control {
   /// Selects this option and deselects its siblings.
   void select();
 
+  /// Whether Tab stops here for the whole group: at the selected option, or at the first usable one
+  /// while the selected one cannot be used.
+  bool standsForGroup() const;
+
   /// The person selects the option. Does nothing on an unusable one.
   void press();
   /// The person moves the selection with an arrow key: the next (or previous) usable option of the

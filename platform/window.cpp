@@ -14,12 +14,6 @@ std::vector<Window*>& mutableOpenWindows() {
   return windows;
 }
 
-bool isTabStop(const Control& control) {
-  if (!control.usable()) return false;
-  if (control.kind() != Control::Kind::kOptionButton) return true;
-  return static_cast<const OptionButton&>(control).selected();
-}
-
 }  // namespace
 
 Window::Window(std::string caption, Size clientSize)
@@ -70,7 +64,18 @@ void Window::moveFocus(bool forward) {
 }
 
 void Window::settleFocus() {
-  if (open_ && focused_ != nullptr && !focused_->usable()) moveFocus();
+  if (!open_ || focused_ == nullptr || focused_->usable()) return;
+  if (Control* preferred = preferredFocus()) {
+    setFocus(*preferred);
+  } else {
+    moveFocus();
+  }
+}
+
+bool Window::isTabStop(const Control& control) {
+  if (!control.usable()) return false;
+  if (control.kind() != Control::Kind::kOptionButton) return true;
+  return static_cast<const OptionButton&>(control).standsForGroup();
 }
 
 void Window::focusMovedTo(Control& control) {

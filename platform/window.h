@@ -40,7 +40,8 @@ class Window : public Container {
   void setFocus(Control& control);
   /// Moves the focus on as the Tab key does.
   void moveFocus(bool forward = true);
-  /// Moves the focus on when the control that has it can no longer be used.
+  /// Moves the focus on when the control that has it can no longer be used: to what the form
+  /// prefers, or to the next in the tab order.
   void settleFocus();
   /// The view reports where the focus now is: raises LostFocus of the old control and GotFocus of
   /// the new one. Leaving for another window is no move.
@@ -62,6 +63,11 @@ class Window : public Container {
   /// Whether the person may close the window now.
   virtual bool queryUnload() { return true; }
   virtual void Form_Unload() {}
+  /// Where the focus should go when the control that has it can no longer be used; none for the
+  /// next in the tab order.
+  virtual Control* preferredFocus() const { return nullptr; }
+  /// Whether Tab stops at the control now.
+  static bool isTabStop(const Control& control);
 
   void setMenus(std::vector<Menu> menus) { menus_ = std::move(menus); }
   /// The order in which Tab visits the controls, round its end. The selected option button stands

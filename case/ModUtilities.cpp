@@ -1,0 +1,134 @@
+#include "case/ModUtilities.h"
+
+#include "case/failures.h"
+#include "platform/dialogs.h"
+#include "platform/events.h"
+#include "platform/files.h"
+#include "platform/later.h"
+#include "platform/process.h"
+
+namespace korventally {
+namespace {
+
+enum class FieldChange { kEnable, kDisable, kClearHighlight };
+
+/// The colour code of fields: the colour before decides the colour after.
+OleColor nextColor(OleColor before, FieldChange change) {
+  switch (change) {
+    case FieldChange::kEnable:
+      return before == colors::kDarkYellow ? colors::kYellow : colors::kWhite;
+    case FieldChange::kDisable:
+      return before == colors::kYellow ? colors::kDarkYellow : colors::kButtonFace;
+    case FieldChange::kClearHighlight:
+      return before == colors::kYellow ? colors::kWhite : before;
+  }
+  return before;
+}
+
+constexpr std::uint32_t kEditorBatchLifetime = 5000;
+
+void removeEditorBatch(const std::string& path) {
+  const Status removed = removeOwnFile(path);
+  if (removed) return;
+  showFailure(nullptr, "A file of the program's own could not be deleted:", removed.error(),
+              "Please delete it when no program uses it any more.");
+}
+
+bool isPrintable(std::int16_t keyCode) { return keyCode >= 32 && keyCode <= 127; }
+bool isDigit(std::int16_t keyCode) { return keyCode >= '0' && keyCode <= '9'; }
+
+}  // namespace
+
+void EnableControl(Control& control) { control.setEnabled(true); }
+void DisableControl(Control& control) { control.setEnabled(false); }
+
+void EnableField(TextBox& field) {
+  field.setEnabled(true);
+  field.setBackColor(nextColor(field.backColor(), FieldChange::kEnable));
+}
+
+void DisableField(TextBox& field) {
+  field.setEnabled(false);
+  field.setBackColor(nextColor(field.backColor(), FieldChange::kDisable));
+}
+
+void HighlightField(TextBox& field) { field.setBackColor(colors::kYellow); }
+
+void ClearFieldHighlight(TextBox& field) {
+  if (!field.isEmpty()) {
+    field.setBackColor(nextColor(field.backColor(), FieldChange::kClearHighlight));
+  }
+  field.setText(trimBlanks(field.text()));
+}
+
+void EnableStep(const ControlGroup& controls, const FieldGroup& fields) {
+  for (Control* control : controls) EnableControl(*control);
+  for (TextBox* field : fields) EnableField(*field);
+}
+
+void DisableStep(const ControlGroup& controls, const FieldGroup& fields) {
+  for (Control* control : controls) DisableControl(*control);
+  for (TextBox* field : fields) DisableField(*field);
+}
+
+void SwitchStep(const ControlGroup& controlsToClose, const FieldGroup& fieldsToClose,
+                const ControlGroup& controlsToOpen, const FieldGroup& fieldsToOpen) {
+  DisableStep(controlsToClose, fieldsToClose);
+  EnableStep(controlsToOpen, fieldsToOpen);
+}
+
+void FilterDecimalKey(std::int16_t& keyCode) {
+  if (keyCode != '.') FilterDigitKey(keyCode);
+}
+
+void FilterDigitKey(std::int16_t& keyCode) {
+  if (isPrintable(keyCode) && !isDigit(keyCode)) keyCode = 0;
+}
+
+void WaitMilliseconds(std::int16_t duration, const std::function<bool()>& interrupted) {
+  const std::uint32_t start = tickCount();
+  const auto stop = [&] { return interrupted && interrupted(); };
+  // Unsigned: the difference stays right when the tick counter wraps during the wait.
+  while (!stop() && duration > 0 && tickCount() - start < static_cast<std::uint32_t>(duration)) {
+    processPendingEvents();
+  }
+}
+
+void AnimateRunning(Label& label, const std::function<bool()>& interrupted) {
+  for (const char* caption : {"Running.", "Running..", "Running..."}) {
+    if (interrupted && interrupted()) return;
+    label.setText(caption);
+    WaitMilliseconds(500, interrupted);
+  }
+}
+
+Status OpenFileInNotepad(const std::string& directory, const std::string& fileName) {
+  const std::string folder = joinPath(trimBlanks(directory), "");
+  const std::string batch = folder + "open_file.bat";
+  Status status = retryWhileBusy(
+      [&] { return writeTextFile(batch, {"notepad " + batchQuoted(folder + fileName)}); });
+  if (!status) return status;
+  // Planned before the start, so that the file goes whatever becomes of the start.
+  runLater(batch, kEditorBatchLifetime, [batch] { removeEditorBatch(batch); });
+  const auto started = startBatchFile(batch, WindowStyle::kHidden);
+  if (!started) return started.error();
+  return {};
+}
+
+std::string trimBlanks(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return {};
+  return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
+}
+
+std::string joinPath(const std::string& folder, const std::string& name) {
+  return folder.ends_with('\\') ? folder + name : folder + '\\' + name;
+}
+
+std::string batchQuoted(const std::string& path) {
+  std::string quoted = "\"";
+  for (const char c : path) quoted.append(c == '%' ? 2 : 1, c);
+  return quoted + '"';
+}
+
+}  // namespace korventally

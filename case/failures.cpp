@@ -1,0 +1,47 @@
+#include "case/failures.h"
+
+#include <cstdint>
+
+#include "case/ModUtilities.h"
+#include "platform/dialogs.h"
+#include "platform/events.h"
+#include "platform/files.h"
+
+namespace korventally {
+namespace {
+
+constexpr std::uint32_t kPatience = 1500;
+constexpr std::int16_t kPause = 50;
+
+std::string reasonOf(const Error& error) {
+  if (error.code == 0) return error.text;
+  return error.text + " (" + std::to_string(error.code) + ")";
+}
+
+}  // namespace
+
+Status retryWhileBusy(const std::function<Status()>& operation,
+                      const std::function<bool()>& interrupted) {
+  const std::uint32_t start = tickCount();
+  Status status = operation();
+  while (!status && status.error().kind == ErrorKind::kBusy && tickCount() - start < kPatience) {
+    if (interrupted && interrupted()) break;
+    WaitMilliseconds(kPause, interrupted);
+    status = operation();
+  }
+  return status;
+}
+
+Status removeOwnFile(const std::string& path, const std::function<bool()>& interrupted) {
+  Status status = retryWhileBusy([&] { return deleteFile(path); }, interrupted);
+  if (!status && status.error().kind == ErrorKind::kNotFound) return {};
+  return status;
+}
+
+void showFailure(Window* owner, const std::string& what, const Error& error,
+                 const std::string& advice) {
+  messageBox(owner, what + "\n" + error.path + "\n\n" + reasonOf(error) + "\n\n" + advice,
+             kErrorTitle);
+}
+
+}  // namespace korventally

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "platform/result.h"
+
+namespace korventally {
+
+class Window;
+
+/// Tries an operation again for about 1.5 s while another program keeps the file busy, as a virus
+/// scanner does with a new one. Events are handled in between; `interrupted` ends the trying.
+Status retryWhileBusy(const std::function<Status()>& operation,
+                      const std::function<bool()>& interrupted = {});
+
+/// Deletes one of the program's own files, with retries. One that is gone already is as good.
+Status removeOwnFile(const std::string& path, const std::function<bool()>& interrupted = {});
+
+/// Says in a message box what failed, on which file, the system's reason and what to do about it.
+void showFailure(Window* owner, const std::string& what, const Error& error,
+                 const std::string& advice);
+
+}  // namespace korventally

@@ -1,0 +1,22 @@
+#include "run/batch_file.h"
+
+#include "case/ModUtilities.h"
+#include "platform/process.h"
+#include "run/control_file.h"
+
+namespace korventally {
+
+std::string enginePath() { return joinPath(installationDirectory(), "korventally.exe"); }
+
+std::string batchFilePath(const AnalysisCase& theCase) {
+  return theCase.WorkDir + "run_korventally.bat";
+}
+
+std::vector<std::string> batchFileLines(const AnalysisCase& theCase) {
+  std::vector<std::string> lines{batchQuoted(enginePath()) + " " +
+                                 batchQuoted(controlFilePath(theCase))};
+  if (theCase.DebugMode) lines.push_back("pause");
+  return lines;
+}
+
+}  // namespace korventally

@@ -1,0 +1,77 @@
+#include "run/verdict.h"
+
+#include <vector>
+
+#include "platform/events.h"
+#include "platform/files.h"
+
+namespace korventally {
+namespace {
+
+constexpr std::string_view kCompletedLine = "RUN COMPLETED";
+constexpr std::string_view kFailedLine = "RUN FAILED";
+constexpr std::size_t kChunk = 256 * 1024;
+/// Reading a chunk takes a millisecond or so; events are handled often enough for the window to
+/// feel alive, and seldom enough not to slow the reading.
+constexpr std::uint32_t kMostWithoutEvents = 20;
+
+}  // namespace
+
+void VerdictScanner::feed(std::string_view bytes) {
+  for (const char c : bytes) {
+    if (c == '\r' || c == '\n') {
+      verdict_ = verdict();
+      line_.clear();
+      pendingBlanks_ = 0;
+      tooLong_ = false;
+    } else if (!tooLong_) {
+      addToLine(c);
+    }
+  }
+}
+
+std::optional<Verdict> VerdictScanner::verdict() const {
+  const std::optional<Verdict> ofLine = verdictOfLine();
+  return ofLine ? ofLine : verdict_;
+}
+
+void VerdictScanner::addToLine(char c) {
+  if (c == ' ') {
+    if (!line_.empty()) ++pendingBlanks_;
+    return;
+  }
+  tooLong_ = line_.size() + pendingBlanks_ >= kCompletedLine.size();
+  if (tooLong_) return;
+  line_.append(pendingBlanks_, ' ');
+  line_.push_back(c);
+  pendingBlanks_ = 0;
+}
+
+std::optional<Verdict> VerdictScanner::verdictOfLine() const {
+  if (tooLong_) return std::nullopt;
+  if (line_ == kCompletedLine) return Verdict::kCompleted;
+  if (line_ == kFailedLine) return Verdict::kFailed;
+  return std::nullopt;
+}
+
+std::optional<Verdict> readVerdict(const std::string& path,
+                                   const std::function<bool()>& interrupted) {
+  auto file = openForReading(path);
+  if (!file) return std::nullopt;
+  VerdictScanner scanner;
+  std::vector<char> buffer(kChunk);
+  std::uint32_t lastEvents = tickCount();
+  while (!interrupted()) {
+    const auto count = file.value()->read(buffer);
+    if (!count) return std::nullopt;
+    if (count.value() == 0) return scanner.verdict();
+    scanner.feed({buffer.data(), count.value()});
+    if (tickCount() - lastEvents >= kMostWithoutEvents) {
+      processPendingEvents();
+      lastEvents = tickCount();
+    }
+  }
+  return std::nullopt;
+}
+
+}  // namespace korventally

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace korventally {
+
+/// The engine's verdict on its own run.
+enum class Verdict { kCompleted, kFailed };
+
+/// Finds the verdict in a list file that is fed to it piece by piece: a line that is exactly
+/// "RUN COMPLETED" or "RUN FAILED", apart from blanks around it. The last such line decides. CR LF,
+/// LF and CR end a line, and so does the end of the file. Needs the same little memory for any
+/// file, even for one endless line.
+class VerdictScanner {
+ public:
+  void feed(std::string_view bytes);
+  /// The verdict of everything fed, taken as a whole file.
+  std::optional<Verdict> verdict() const;
+
+ private:
+  void addToLine(char c);
+  std::optional<Verdict> verdictOfLine() const;
+
+  /// The line so far, from its first character that is no blank. Blanks wait in a counter of their
+  /// own until something follows them.
+  std::string line_;
+  std::size_t pendingBlanks_ = 0;
+  bool tooLong_ = false;
+  std::optional<Verdict> verdict_;
+};
+
+/// Reads a list file from its first byte to its last and returns its verdict; none when it has
+/// none, or cannot be read just now. Events are handled while a large file is read; `interrupted`
+/// ends the reading.
+std::optional<Verdict> readVerdict(const std::string& path,
+                                   const std::function<bool()>& interrupted);
+
+}  // namespace korventally

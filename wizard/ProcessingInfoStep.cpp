@@ -1,0 +1,126 @@
+#include "wizard/ProcessingInfoStep.h"
+
+#include "platform/dialogs.h"
+#include "platform/files.h"
+#include "wizard/frmKORVENTALLY.h"
+
+namespace korventally {
+namespace {
+
+constexpr std::int16_t kEnter = 13;
+constexpr const char* kNoPlaceholder = "";
+constexpr std::size_t kYearDigits = 4;
+
+/// Makes a lone digit two.
+void PadTwoDigits(TextBox& box) {
+  if (box.text().size() == 1) box.setText("0" + box.text());
+}
+
+void emptyOnFocus(TextBox& box, const std::string& placeholder) {
+  box.onGotFocus = [&box, placeholder] {
+    if (box.text() == placeholder) box.setText("");
+  };
+}
+
+}  // namespace
+
+ProcessingInfoStep::ProcessingInfoStep(frmKORVENTALLY& owner)
+    : WizardStep(owner),
+      frameProcessingInfo(owner, {120, 5880, 11295, 2535},
+                          "PROCESSING INFORMATION:", fonts::kStepCaption, colors::kNavy),
+      Frame6(owner, {11640, 5880, 1455, 2535}) {
+  txtReceptorDATFile.setTakesPath();
+  txtReceptorDATFile.setAccessibleName("File with Receptors to be Processed");
+  txtYear.setAccessibleName("Year");
+  txtMonth.setAccessibleName("Month");
+  txtDay.setAccessibleName("Day");
+  txtHour.setAccessibleName("Hour");
+  txtRunLength.setAccessibleName("Run Length, hours");
+  bindHandlers();
+  DisableStep(ProcessingInfoControls, ProcessingInfoFields);
+}
+
+void ProcessingInfoStep::bindHandlers() {
+  emptyOnFocus(txtYear, "YYYY");
+  emptyOnFocus(txtMonth, "MM");
+  emptyOnFocus(txtDay, "DD");
+  emptyOnFocus(txtHour, "HH");
+  for (TextBox* box : {&txtMonth, &txtDay, &txtHour}) {
+    box->onLostFocus = [box] { PadTwoDigits(*box); };
+  }
+  for (TextBox* box : {&txtYear, &txtMonth, &txtDay, &txtHour, &txtRunLength}) {
+    box->onKeyPress = [this](std::int16_t& keyCode) {
+      FilterDigitKey(keyCode);
+      if (keyCode != kEnter) return;
+      wizard.moveFocus();
+      keyCode = 0;
+    };
+  }
+  cmdBrowseReceptorDAT.onClick = [this] { cmdBrowseReceptorDAT_Click(); };
+  cmdPrevious4.onClick = [this] { cmdPrevious4_Click(); };
+  cmdNext4.onClick = [this] { cmdNext4_Click(); };
+}
+
+void ProcessingInfoStep::cmdBrowseReceptorDAT_Click() {
+  wizard.cdlBrowse.Filter =
+      "Receptor DAT File (*.dat) | *.dat; |"
+      "All Files (*.*) | *.*";
+  wizard.cdlBrowse.FilterIndex = 1;
+  wizard.cdlBrowse.InitDir = wizard.workingDirectory.txtWorkDir.text();
+  wizard.cdlBrowse.FileName.clear();
+  wizard.cdlBrowse.ShowOpen();
+  txtReceptorDATFile.setText(wizard.cdlBrowse.FileName);
+  ClearFieldHighlight(txtReceptorDATFile);
+}
+
+void ProcessingInfoStep::cmdPrevious4_Click() {
+  switchTo(wizard.sourceGroups);
+  wizard.sourceGroups.reopenPagingButtons();
+}
+
+void ProcessingInfoStep::cmdNext4_Click() {
+  const bool passed = checkReceptorFile() && checkYear() &&
+                      checkFilledIn(txtMonth, "MM", "Please enter a Month for the start time.") &&
+                      checkFilledIn(txtDay, "DD", "Please enter a Day for the start time.") &&
+                      checkFilledIn(txtHour, "HH", "Please enter an Hour for the start time.") &&
+                      checkFilledIn(txtRunLength, kNoPlaceholder, "Please enter a Run Length.");
+  if (passed) switchTo(wizard.outputFile);
+}
+
+bool ProcessingInfoStep::checkReceptorFile() {
+  if (txtReceptorDATFile.isEmpty()) {
+    refuse(txtReceptorDATFile, "Please select an input Receptor Data file.");
+    return false;
+  }
+  if (!fileExists(txtReceptorDATFile.text())) {
+    refuse(txtReceptorDATFile, "Selected input Receptor Data file can not be located.");
+    return false;
+  }
+  ClearFieldHighlight(txtReceptorDATFile);
+  return true;
+}
+
+bool ProcessingInfoStep::checkYear() {
+  if (txtYear.isEmpty() || txtYear.text() == "YYYY") {
+    refuse(txtYear, "Please enter a Year for the start time.");
+    return false;
+  }
+  if (txtYear.text().size() != kYearDigits) {
+    refuse(txtYear, "The Year must be in the format YYYY.");
+    return false;
+  }
+  ClearFieldHighlight(txtYear);
+  return true;
+}
+
+bool ProcessingInfoStep::checkFilledIn(TextBox& box, const char* placeholder,
+                                       const std::string& message) {
+  if (box.isEmpty() || box.text() == placeholder) {
+    refuse(box, message);
+    return false;
+  }
+  ClearFieldHighlight(box);
+  return true;
+}
+
+}  // namespace korventally

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "wizard/wizard_step.h"
+
+namespace korventally {
+
+/// Step 4: the receptors, the start time, the run length and the Rank 1 option.
+class ProcessingInfoStep : public WizardStep {
+ public:
+  explicit ProcessingInfoStep(frmKORVENTALLY& owner);
+
+  // clang-format off
+  Frame frameProcessingInfo;
+
+  Frame frameReceptorDATFormat{frameProcessingInfo, {360, 325, 6615, 2070}, "File with Receptors to be Processed:"};
+  TextBox txtReceptorDATFile{frameReceptorDATFormat, {240, 420, 5150, 315}, "", 132};
+  Button cmdBrowseReceptorDAT{frameReceptorDATFormat, {5480, 405, 975, 315}, "Browse"};
+  Label lblReceptorFileFormat{frameReceptorDATFormat, {240, 960, 1335, 255}, "File Format", Align::kLeft, fonts::kBold};
+  OptionButton optReceptor_TOLVREN{frameReceptorDATFormat, {480, 1275, 2775, 210}, "TOLVREN Output Ranked DAT File", true};
+  OptionButton optReceptor_Generic{frameReceptorDATFormat, {480, 1575, 2175, 210}, "Generic (X,Y,ID) DAT File"};
+
+  Frame frameRunLength{frameProcessingInfo, {7080, 325, 3975, 1300}, "Start Time and Run Length:"};
+  Label lblYear{frameRunLength, {120, 345, 495, 255}, "Year:", Align::kRight};
+  TextBox txtYear{frameRunLength, {670, 300, 615, 315}, "YYYY", 4};
+  Label lblDay{frameRunLength, {1320, 345, 495, 255}, "Day:", Align::kRight};
+  TextBox txtDay{frameRunLength, {1870, 300, 615, 315}, "DD", 2};
+  Label lblMonth{frameRunLength, {120, 865, 495, 255}, "Month:", Align::kRight};
+  TextBox txtMonth{frameRunLength, {670, 820, 615, 315}, "MM", 2};
+  Label lblHour{frameRunLength, {1320, 865, 495, 255}, "Hour:", Align::kRight};
+  TextBox txtHour{frameRunLength, {1870, 820, 615, 315}, "HH", 2};
+  Line Line1{frameRunLength, {2615, 240, 0, 960}};
+  Label lblRunLength{frameRunLength, {2760, 350, 975, 255}, "Run Length:"};
+  TextBox txtRunLength{frameRunLength, {2760, 660, 615, 315}, "", 6};
+  Label lblHours{frameRunLength, {3415, 705, 495, 255}, "hours"};
+
+  Frame frameRank1Values{frameProcessingInfo, {7080, 1720, 3975, 680}, "Rank 1 Values:"};
+  OptionButton optRank1_Include{frameRank1Values, {670, 320, 855, 210}, "Include", true};
+  OptionButton optRank1_Exclude{frameRank1Values, {1870, 320, 975, 210}, "Exclude"};
+
+  Frame Frame6;
+  Button cmdPrevious4{Frame6, {240, 840, 1000, 315}, "PREVIOUS"};
+  Button cmdNext4{Frame6, {240, 1380, 1000, 315}, "NEXT", fonts::kBold};
+
+  const ControlGroup ProcessingInfoControls{&frameProcessingInfo, &frameReceptorDATFormat, &optReceptor_TOLVREN, &optReceptor_Generic, &lblReceptorFileFormat, &cmdBrowseReceptorDAT, &frameRunLength, &lblYear, &lblMonth, &lblDay, &lblHour, &lblRunLength, &lblHours, &cmdPrevious4, &cmdNext4, &frameRank1Values, &optRank1_Exclude, &optRank1_Include};
+  const FieldGroup ProcessingInfoFields{&txtReceptorDATFile, &txtYear, &txtMonth, &txtDay, &txtHour, &txtRunLength};
+  // clang-format on
+
+  const ControlGroup& controls() const override { return ProcessingInfoControls; }
+  const FieldGroup& fields() const override { return ProcessingInfoFields; }
+  const Frame& frame() const override { return frameProcessingInfo; }
+
+  void cmdBrowseReceptorDAT_Click();
+  void cmdPrevious4_Click();
+  void cmdNext4_Click();
+
+ private:
+  void bindHandlers();
+  bool checkReceptorFile();
+  bool checkYear();
+  bool checkFilledIn(TextBox& box, const char* placeholder, const std::string& message);
+};
+
+}  // namespace korventally

@@ -1,0 +1,177 @@
+#include "wizard/SourceGroupsStep.h"
+
+#include "case/basModule.h"
+#include "platform/dialogs.h"
+#include "platform/files.h"
+#include "wizard/frmKORVENTALLY.h"
+
+namespace korventally {
+namespace {
+
+AnalysisCase& theCase() { return basModule::analysisCase; }
+
+}  // namespace
+
+SourceGroupsStep::SourceGroupsStep(frmKORVENTALLY& owner)
+    : WizardStep(owner),
+      frameSourceGroupInfo(owner, {120, 3120, 11295, 2655}, "", fonts::kStepCaption, colors::kNavy),
+      Frame1(owner, {11640, 3120, 1455, 2655}) {
+  SetGroupCaption(frameSourceGroupInfo, 1, kFixedGroups);
+  txtConcFile.setTakesPath();
+  txtConcFile.setAccessibleName("Concentration File");
+  txtGroupName.setAccessibleName("Source Group Name");
+  txtAmbientBckg.setAccessibleName("Ambient Background, ug/m**3");
+  bindHandlers();
+  DisableStep(SourceGroupInfoControls, SourceGroupInfoFields);
+  disablePagingButtons();
+}
+
+void SourceGroupsStep::bindHandlers() {
+  cmdNextGroup.onClick = [this] { cmdNextGroup_Click(); };
+  cmdPrevGroup.onClick = [this] { cmdPrevGroup_Click(); };
+  cmdNext3.onClick = [this] { cmdNext3_Click(); };
+  cmdPrevious3.onClick = [this] { cmdPrevious3_Click(); };
+  cmdBrowseFile.onClick = [this] { cmdBrowseFile_Click(); };
+  txtGroupName.onGotFocus = [this] { txtGroupName_GotFocus(); };
+  for (TextBox* box : SourceGroupInfoFields) {
+    box->onLostFocus = [box] { ClearFieldHighlight(*box); };
+  }
+}
+
+void SourceGroupsStep::ParseGroupCaption(const std::string& caption) {
+  const GroupCaption read = readGroupCaption(caption);
+  CaptionGroupKind = read.kind;
+  CaptionGroupSlot = read.slot;
+  CaptionGroupCount = read.count;
+}
+
+void SourceGroupsStep::OpenGroupPages() {
+  const std::int32_t groups = theCase().GroupCount;
+  ParseGroupCaption(frameSourceGroupInfo.text());
+  if (CaptionGroupKind == "OTHER" && CaptionGroupCount > groups) {
+    // The page shown may not exist any more, so the pages start anew.
+    CurrentGroup = 1;
+    LoadGroupPage(CurrentGroup);
+  } else {
+    // The boxes keep what the user left on the page, stored or not.
+    CurrentGroup = CaptionGroupSlot;
+    SetGroupCaption(frameSourceGroupInfo, CurrentGroup, groups);
+  }
+  SetAmbientBackgroundVisible(CurrentGroup);
+  if (CurrentGroup > 1) EnableControl(cmdPrevGroup);
+  if (CurrentGroup != groups) {
+    EnableControl(cmdNextGroup);
+    cmdNextGroup.setBackColor(colors::kGreen);
+  } else {
+    EnableControl(cmdNext3);
+  }
+}
+
+void SourceGroupsStep::reopenPagingButtons() {
+  if (CurrentGroup > 1) EnableControl(cmdPrevGroup);
+  EnableControl(cmdNext3);
+}
+
+void SourceGroupsStep::disablePagingButtons() {
+  for (Button* button : {&cmdNextGroup, &cmdPrevGroup, &cmdNext3}) DisableControl(*button);
+}
+
+void SourceGroupsStep::LoadGroupPage(std::int32_t slot) {
+  SetGroupCaption(frameSourceGroupInfo, slot, theCase().GroupCount);
+  txtConcFile.setText(theCase().GroupConcFiles.at(slot));
+  txtGroupName.setText(theCase().GroupNames.at(slot));
+}
+
+void SourceGroupsStep::StoreGroupPage(std::int32_t slot) {
+  theCase().GroupConcFiles.at(slot) = trimBlanks(txtConcFile.text());
+  if (!txtGroupName.isEmpty()) theCase().GroupNames.at(slot) = trimBlanks(txtGroupName.text());
+}
+
+void SourceGroupsStep::SetAmbientBackgroundVisible(std::int32_t slot) {
+  for (Control* control : AmbientBackgroundControls) control->setVisible(slot == 1);
+}
+
+void SourceGroupsStep::ValidateConcFile() {
+  ConcFileInvalid = false;
+  if (!txtConcFile.isEmpty()) ClearFieldHighlight(txtConcFile);
+  // Empty from the start, or because it held blanks only.
+  if (txtConcFile.isEmpty()) return refuseConcFile("Please select a Concentration File.");
+  if (!fileExists(txtConcFile.text())) {
+    return refuseConcFile("The selected Concentration File can not be located.");
+  }
+}
+
+void SourceGroupsStep::refuseConcFile(const std::string& message) {
+  ConcFileInvalid = true;
+  refuse(txtConcFile, message);
+}
+
+void SourceGroupsStep::cmdNextGroup_Click() {
+  ValidateConcFile();
+  if (ConcFileInvalid) return;
+  StoreGroupPage(CurrentGroup);
+  ++CurrentGroup;
+  if (CurrentGroup == theCase().GroupCount) {
+    cmdNextGroup.setBackColor(colors::kButtonFace);
+    DisableControl(cmdNextGroup);
+    EnableControl(cmdNext3);
+  }
+  SetAmbientBackgroundVisible(CurrentGroup);
+  LoadGroupPage(CurrentGroup);
+  EnableControl(cmdPrevGroup);
+}
+
+void SourceGroupsStep::cmdPrevGroup_Click() {
+  EnableControl(cmdNextGroup);
+  cmdNextGroup.setBackColor(colors::kGreen);
+  DisableControl(cmdNext3);
+  txtConcFile.setBackColor(colors::kWhite);
+  StoreGroupPage(CurrentGroup);
+  --CurrentGroup;
+  SetAmbientBackgroundVisible(CurrentGroup);
+  if (CurrentGroup == 1) DisableControl(cmdPrevGroup);
+  LoadGroupPage(CurrentGroup);
+}
+
+void SourceGroupsStep::cmdNext3_Click() {
+  ValidateConcFile();
+  if (ConcFileInvalid) return;
+  StoreGroupPage(CurrentGroup);
+  switchTo(wizard.processingInfo);
+  disablePagingButtons();
+}
+
+void SourceGroupsStep::cmdPrevious3_Click() {
+  txtConcFile.setBackColor(colors::kWhite);
+  switchTo(wizard.analysisType);
+  disablePagingButtons();
+  wizard.analysisType.openArea();
+}
+
+void SourceGroupsStep::cmdBrowseFile_Click() {
+  ShowConcFileDialog();
+  if (wizard.cdlBrowse.FileName.empty()) return;
+  txtConcFile.setText(wizard.cdlBrowse.FileName);
+  ClearFieldHighlight(txtConcFile);
+}
+
+void SourceGroupsStep::ShowConcFileDialog() {
+  wizard.cdlBrowse.Filter =
+      "Concentration File (*.con) | *.con; |"
+      "Concentration File (*.dat) | *.dat; |"
+      "All Files (*.*) | *.*";
+  wizard.cdlBrowse.FilterIndex = 1;
+  wizard.cdlBrowse.InitDir = wizard.workingDirectory.txtWorkDir.text();
+  wizard.cdlBrowse.FileName.clear();
+  wizard.cdlBrowse.ShowOpen();
+}
+
+/// A default name makes room for the name that the user is about to type.
+void SourceGroupsStep::txtGroupName_GotFocus() {
+  const std::string& name = txtGroupName.text();
+  if (CurrentGroup == 1 && name == "ALL_SOURCES") txtGroupName.setText("ALL");
+  if (CurrentGroup == 2 && name == "FACILITY") txtGroupName.setText("");
+  if (CurrentGroup > 2 && name == defaultOtherName(CurrentGroup)) txtGroupName.setText("");
+}
+
+}  // namespace korventally

@@ -1,0 +1,85 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "wizard/group_caption.h"
+#include "wizard/wizard_step.h"
+
+namespace korventally {
+
+/// Step 3: one page per source group, all shown in the same frame, with the group's concentration
+/// file and name, and on the first page the constant ambient background.
+class SourceGroupsStep : public WizardStep {
+ public:
+  explicit SourceGroupsStep(frmKORVENTALLY& owner);
+
+  // clang-format off
+  Frame frameSourceGroupInfo;
+
+  Label lblConcFile{frameSourceGroupInfo, {240, 435, 1695, 255}, "Concentration File:", Align::kRight};
+  TextBox txtConcFile{frameSourceGroupInfo, {2040, 390, 7935, 315}, "", 132};
+  Button cmdBrowseFile{frameSourceGroupInfo, {10080, 390, 975, 315}, "Browse"};
+  Label lblNote1{frameSourceGroupInfo, {2040, 735, 7935, 210}, "(Units must be g/m**3. Path/filenames may be no more than 132 characters in length.)"};
+
+  Label lblGroupName{frameSourceGroupInfo, {240, 1110, 1695, 255}, "Source Group Name:", Align::kRight};
+  TextBox txtGroupName{frameSourceGroupInfo, {2040, 1065, 1935, 315}, "ALL_SOURCES", 13};
+  Label lblNote2{frameSourceGroupInfo, {2040, 1410, 1935, 210}, "(Up to 13 chars.)"};
+  Label lblNote4{frameSourceGroupInfo, {2040, 1635, 1935, 210}, "(Must begin with \"ALL\".)"};
+  Label lblNote5{frameSourceGroupInfo, {240, 1410, 1695, 420}, "(For output table column headers.)", Align::kRight};
+
+  Label lblAmbientBckg{frameSourceGroupInfo, {4440, 1110, 1695, 255}, "Ambient Background:", Align::kRight};
+  TextBox txtAmbientBckg{frameSourceGroupInfo, {6240, 1065, 1935, 315}, "", 132};
+  Label lblugm3{frameSourceGroupInfo, {8280, 1110, 735, 255}, "ug/m**3"};
+  Label lblNote3{frameSourceGroupInfo, {6240, 1410, 4815, 630}, "(Please enter a constant ambient background concentration value if it is not already included in the above selected ALL SOURCES concentration file.)"};
+
+  Button cmdPrevGroup{frameSourceGroupInfo, {3720, 2145, 1875, 375}, "<  PREVIOUS GROUP"};
+  Button cmdNextGroup{frameSourceGroupInfo, {5700, 2145, 1875, 375}, "  NEXT GROUP  >", fonts::kDefault, Button::Style::kGraphical};
+
+  Frame Frame1;
+  Button cmdPrevious3{Frame1, {240, 900, 1000, 315}, "PREVIOUS"};
+  Button cmdNext3{Frame1, {240, 1440, 1000, 315}, "NEXT", fonts::kBold};
+
+  const ControlGroup SourceGroupInfoControls{&frameSourceGroupInfo, &lblConcFile, &lblGroupName, &lblAmbientBckg, &lblugm3, &lblNote1, &lblNote2, &lblNote3, &lblNote4, &lblNote5, &cmdBrowseFile, &cmdPrevious3};
+  const FieldGroup SourceGroupInfoFields{&txtConcFile, &txtGroupName, &txtAmbientBckg};
+  const ControlGroup AmbientBackgroundControls{&lblAmbientBckg, &lblugm3, &lblNote3, &lblNote4, &txtAmbientBckg};
+  // clang-format on
+
+  const ControlGroup& controls() const override { return SourceGroupInfoControls; }
+  const FieldGroup& fields() const override { return SourceGroupInfoFields; }
+  const Frame& frame() const override { return frameSourceGroupInfo; }
+
+  /// Slot of the page shown.
+  std::int32_t CurrentGroup = 0;
+  /// The page caption as it was read back when the step was opened.
+  std::string CaptionGroupKind;
+  std::int32_t CaptionGroupSlot = 0;
+  std::int32_t CaptionGroupCount = 0;
+  /// Result of the last ValidateConcFile.
+  bool ConcFileInvalid = false;
+
+  /// Shows the page to work on, once the number of groups is set, and opens the paging buttons.
+  void OpenGroupPages();
+  /// Opens the paging buttons of the page from which the step was left forward.
+  void reopenPagingButtons();
+  void disablePagingButtons();
+
+  void cmdNextGroup_Click();
+  void cmdPrevGroup_Click();
+  void cmdNext3_Click();
+  void cmdPrevious3_Click();
+  void cmdBrowseFile_Click();
+  void txtGroupName_GotFocus();
+
+ private:
+  void bindHandlers();
+  void ParseGroupCaption(const std::string& caption);
+  void LoadGroupPage(std::int32_t slot);
+  void StoreGroupPage(std::int32_t slot);
+  void SetAmbientBackgroundVisible(std::int32_t slot);
+  void ValidateConcFile();
+  void refuseConcFile(const std::string& message);
+  void ShowConcFileDialog();
+};
+
+}  // namespace korventally

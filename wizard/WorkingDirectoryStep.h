@@ -1,0 +1,32 @@
+#pragma once
+
+#include "wizard/wizard_step.h"
+
+namespace korventally {
+
+/// Step 1: the folder that holds the study and receives the files of a run.
+class WorkingDirectoryStep : public WizardStep {
+ public:
+  explicit WorkingDirectoryStep(frmKORVENTALLY& owner);
+
+  Frame frameWorkingDirectory;
+  TextBox txtWorkDir{frameWorkingDirectory, {360, 360, 9615, 315}};
+  Button cmdBrowseWorkDir{frameWorkingDirectory, {10080, 340, 975, 315}, "Browse"};
+
+  Frame Frame2;
+  Button cmdNext1{Frame2, {240, 340, 1000, 315}, "NEXT", fonts::kBold};
+
+  const ControlGroup WorkingDirectoryControls{&frameWorkingDirectory, &cmdBrowseWorkDir, &cmdNext1};
+  const FieldGroup WorkingDirectoryFields{&txtWorkDir};
+
+  const ControlGroup& controls() const override { return WorkingDirectoryControls; }
+  const FieldGroup& fields() const override { return WorkingDirectoryFields; }
+  const Frame& frame() const override { return frameWorkingDirectory; }
+
+  void cmdBrowseWorkDir_Click();
+  /// Makes the path end with a backslash.
+  void txtWorkDir_LostFocus();
+  void cmdNext1_Click();
+};
+
+}  // namespace korventally

@@ -1,0 +1,78 @@
+#include "wizard/list_file_name.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+#include "case/ModUtilities.h"
+
+namespace korventally {
+namespace {
+
+constexpr std::array kDevices = {"con", "prn", "aux", "nul", "conin$", "conout$", "clock$"};
+constexpr std::array kNumberedDevices = {"com", "lpt"};
+constexpr std::array kOwnFiles = {"korventally.inp", "run_korventally.bat", "open_file.bat"};
+
+/// ASCII only: names that differ in the case of other letters are told apart by the file system.
+std::string lowerCase(std::string text) {
+  for (char& c : text) {
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+  }
+  return text;
+}
+
+bool isForbidden(char c) {
+  const auto code = static_cast<unsigned char>(c);
+  return code < 32 || code == 127 || std::string_view("\"*/:<>?\\|").find(c) != std::string::npos;
+}
+
+/// A device goes by its name whatever its extension: "NUL.lst" is the null device.
+bool isDevice(const std::string& name) {
+  const std::string stem = trimBlanks(lowerCase(name.substr(0, name.find('.'))));
+  if (std::find(kDevices.begin(), kDevices.end(), stem) != kDevices.end()) return true;
+  for (const std::string device : kNumberedDevices) {
+    if (!stem.starts_with(device)) continue;
+    const std::string number = stem.substr(device.size());
+    if (number.size() == 1 && number >= "0" && number <= "9") return true;
+    // Windows takes the superscript digits for numbers, too.
+    if (number == "\u00B9" || number == "\u00B2" || number == "\u00B3") return true;
+  }
+  return false;
+}
+
+bool isOwnFile(const std::string& name) {
+  const std::string plain = trimBlanks(lowerCase(name));
+  return std::find(kOwnFiles.begin(), kOwnFiles.end(), plain) != kOwnFiles.end();
+}
+
+/// Windows drops the blanks at the end of a name, so they do not tell two files apart.
+bool isAnyOf(const std::vector<std::string>& inputs, const std::string& path) {
+  const std::string plain = lowerCase(path.substr(0, path.find_last_not_of(' ') + 1));
+  return std::any_of(inputs.begin(), inputs.end(), [&](const std::string& input) {
+    return lowerCase(trimBlanks(input)) == plain;
+  });
+}
+
+}  // namespace
+
+std::string objectionToListFile(const std::string& workDir, const std::string& name,
+                                const std::vector<std::string>& inputs) {
+  const std::string plain = trimBlanks(name);
+  if (plain.empty() || plain.ends_with('.') || std::any_of(name.begin(), name.end(), isForbidden)) {
+    return "The list filename must be the name of a file in the working directory, without a "
+           "path, without any of \\ / : * ? \" < > | and without a dot at its end.";
+  }
+  if (isDevice(name)) {
+    return "The list filename is the name of a Windows device. Please choose another name.";
+  }
+  if (isOwnFile(name)) {
+    return "A run writes a file of its own under this name. Please choose another name.";
+  }
+  if (isAnyOf(inputs, workDir + name)) {
+    return "This case reads a file of this name, and a run would delete it. Please choose another "
+           "name.";
+  }
+  return {};
+}
+
+}  // namespace korventally

@@ -1,0 +1,19 @@
+#include "wizard/wizard_step.h"
+
+#include "platform/dialogs.h"
+#include "wizard/frmKORVENTALLY.h"
+
+namespace korventally {
+
+void WizardStep::switchTo(WizardStep& next) {
+  SwitchStep(controls(), fields(), next.controls(), next.fields());
+}
+
+void WizardStep::refuse(TextBox& box, const std::string& message) {
+  HighlightField(box);
+  messageBox(&wizard, message, kErrorTitle);
+  wizard.setFocus(box);
+  box.selectAll();
+}
+
+}  // namespace korventally

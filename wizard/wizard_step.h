@@ -1,0 +1,39 @@
+#pragma once
+
+#include "case/ModUtilities.h"
+#include "platform/button.h"
+#include "platform/frame.h"
+#include "platform/label.h"
+#include "platform/line.h"
+#include "platform/option_button.h"
+#include "platform/text_box.h"
+
+namespace korventally {
+
+class frmKORVENTALLY;
+
+/// One step of the wizard: its controls, its handlers and its two control groups, the controls and
+/// the text fields that are switched when the step opens or closes.
+class WizardStep {
+ public:
+  virtual ~WizardStep() = default;
+  WizardStep(const WizardStep&) = delete;
+  WizardStep& operator=(const WizardStep&) = delete;
+
+  virtual const ControlGroup& controls() const = 0;
+  virtual const FieldGroup& fields() const = 0;
+  virtual const Frame& frame() const = 0;
+  bool isOpen() const { return frame().enabled(); }
+  /// Closes this step and opens another one.
+  void switchTo(WizardStep& next);
+
+ protected:
+  explicit WizardStep(frmKORVENTALLY& owner) : wizard(owner) {}
+
+  /// Marks the box, says what is wrong and puts the focus into the box.
+  void refuse(TextBox& box, const std::string& message);
+
+  frmKORVENTALLY& wizard;
+};
+
+}  // namespace korventally
