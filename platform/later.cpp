@@ -58,6 +58,8 @@ std::optional<std::uint32_t> untilNextDue() {
   return next->remaining();
 }
 
+void forgetLater() { actions().clear(); }
+
 void finishLater() {
   runEventsWhile([] { return !actions().empty(); });
 }

@@ -19,6 +19,9 @@ void runDue();
 /// For back ends: milliseconds until the next action; none when there is none to come.
 std::optional<std::uint32_t> untilNextDue();
 
+/// For back ends: drops everything that is still to come, for a new world.
+void forgetLater();
+
 /// Runs everything that is still to come, each at its time, handling events meanwhile.
 void finishLater();
 

@@ -27,6 +27,9 @@ class Desktop {
   Desktop(const Desktop&) = delete;
   Desktop& operator=(const Desktop&) = delete;
   static Desktop& current();
+  /// Is told everything that went otherwise than the test expects. Tests bind it to their
+  /// framework; until then it ends the program.
+  static std::function<void(const std::string&)> onFailure;
 
   // Files: names are compared as Windows does, whatever their case. Contents are exact bytes.
   enum class Attribute { kNormal, kHidden, kSystem, kReadOnly };
@@ -74,10 +77,16 @@ class Desktop {
     bool rootIsDrives = false;
     std::string preselected;
   };
+  /// What the person picks for the computer's drives, an item without a path.
+  static constexpr const char* kThisComputer = "::";
   void expectBrowser(std::string path, std::function<void(const Browser&)> look = {});
   /// What the person does in the next window that opens, up to closing it. A window left open by
   /// that fails the test and is closed.
   void expectWindow(std::function<void(Window&)> visit);
+  /// Whether the person can use the window: it is open, and no modal one stands before it.
+  bool takesInput(const Window& window) const;
+  /// What was said to assistive programs.
+  const std::vector<std::string>& announcements() const;
 
   // Processes. A batch file is read as the command interpreter reads it; `korventally.exe` runs the
   // scripted engine, `notepad` remembers its file.
@@ -86,8 +95,12 @@ class Desktop {
   /// What the engine does when it starts; the file `korventally.exe` must exist for it to start.
   void setEngine(EngineScript script);
   const std::vector<std::string>& filesInNotepad() const;
+  /// How each batch file was started.
+  const std::vector<WindowStyle>& startStyles() const;
   int enginesStarted() const;
   bool enginesRunning() const;
+  /// Whether the program runs below normal priority now.
+  bool belowNormalPriority() const;
 
   struct World;
   World& world() { return *world_; }

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace korventally::headless {
+
+class EngineProcess;
+
+/// A command interpreter that works through a batch file, with the engine that it has started.
+class BatchProcess : public std::enable_shared_from_this<BatchProcess> {
+ public:
+  explicit BatchProcess(std::string path) : path_(std::move(path)) {}
+
+  /// Reads the file and runs its first line.
+  void start();
+  bool running() const { return running_; }
+  bool engineRunning() const { return engine_ != nullptr; }
+  void terminate();
+
+ private:
+  void runLines();
+  void runCommand(const std::vector<std::string>& words);
+  void startEngine(const std::string& program, const std::string& controlFile);
+  /// The last program has ended.
+  void goOn();
+
+  const std::string path_;
+  std::vector<std::string> lines_;  ///< those still to run
+  std::shared_ptr<EngineProcess> engine_;
+  bool running_ = true;
+  bool waiting_ = false;
+};
+
+}  // namespace korventally::headless

@@ -1,0 +1,142 @@
+#include "platform/files.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/headless/world.h"
+
+namespace korventally {
+namespace {
+
+using headless::FullPath;
+using headless::Node;
+using headless::parentOf;
+using headless::resolve;
+using headless::systemError;
+using Operation = Desktop::Operation;
+
+constexpr long kFileNotFound = 2;
+constexpr long kPathNotFound = 3;
+constexpr long kAccessDenied = 5;
+constexpr long kSharingViolation = 32;
+constexpr long kDiskFull = 112;
+constexpr long kInvalidName = 123;
+
+Desktop::World& world() { return Desktop::current().world(); }
+
+/// The file of that name, fit to be opened or deleted, or why there is none.
+Result<Node*> usableFile(const FullPath& path) {
+  Node* node = world().files.find(path.text);
+  if (node == nullptr) {
+    const bool folderThere = world().files.find(parentOf(path.text)) != nullptr;
+    return systemError(folderThere ? kFileNotFound : kPathNotFound, path.text);
+  }
+  if (node->isFolder) return systemError(kAccessDenied, path.text);
+  if (path.namesFolder) return systemError(kInvalidName, path.text);
+  if (node->lockedUntil > world().clock.time()) return systemError(kSharingViolation, path.text);
+  return node;
+}
+
+/// Why a file of that name cannot be created or replaced.
+std::optional<Error> obstacle(const FullPath& path) {
+  const Result<Node*> file = usableFile(path);
+  if (file) {
+    // The system replaces neither a read-only file nor, unasked, a hidden one.
+    if (file.value()->attribute == Desktop::Attribute::kNormal) return std::nullopt;
+    return systemError(kAccessDenied, path.text);
+  }
+  if (file.error().code != kFileNotFound) return file.error();
+  if (path.namesFolder) return systemError(kInvalidName, path.text);
+  return std::nullopt;
+}
+
+Result<std::string> bytesOf(const std::vector<std::string>& lines) {
+  std::string bytes;
+  for (const std::string& line : lines) {
+    const Result<std::string> ansi = toAnsi(line);
+    if (!ansi) return ansi;
+    bytes += ansi.value() + "\r\n";
+  }
+  return bytes;
+}
+
+class Reader : public FileReader {
+ public:
+  explicit Reader(const Node& node) : path_(node.path), bytes_(node.bytes) {}
+
+  Result<std::size_t> read(std::span<char> buffer) override {
+    if (auto error = world().faults.call(Operation::kRead, path_)) return *error;
+    if (at_ >= bytes_->size()) return std::size_t{0};
+    const std::size_t count = bytes_->copy(buffer.data(), buffer.size(), at_);
+    at_ += count;
+    return count;
+  }
+
+ private:
+  const std::string path_;
+  const std::shared_ptr<const std::string> bytes_;
+  std::size_t at_ = 0;
+};
+
+}  // namespace
+
+bool fileExists(const std::string& path) {
+  const auto full = resolve(path);
+  if (!full || full.value().namesFolder) return false;
+  const Node* node = world().files.find(full.value().text);
+  return node != nullptr && !node->isFolder && node->attribute != Desktop::Attribute::kHidden &&
+         node->attribute != Desktop::Attribute::kSystem;
+}
+
+bool folderListsEntries(const std::string& path) {
+  const auto full = resolve(path);
+  if (!full) return false;
+  const Node* node = world().files.find(full.value().text);
+  if (node == nullptr || !node->isFolder) return false;
+  const bool isRoot = parentOf(node->path) == node->path;
+  return !isRoot || !world().files.entries(node->path).empty();
+}
+
+Status deleteFile(const std::string& path) {
+  const auto full = resolve(path);
+  if (!full) return full.error();
+  if (auto error = world().faults.call(Operation::kDelete, full.value().text)) return *error;
+  const Result<Node*> file = usableFile(full.value());
+  if (!file) return file.error();
+  if (file.value()->attribute == Desktop::Attribute::kReadOnly) {
+    return systemError(kAccessDenied, full.value().text);
+  }
+  world().files.remove(full.value().text);
+  return {};
+}
+
+Status writeTextFile(const std::string& path, const std::vector<std::string>& lines) {
+  const auto full = resolve(path);
+  if (!full) return full.error();
+  Result<std::string> bytes = bytesOf(lines);
+  if (!bytes) {
+    Error error = bytes.error();
+    error.path = full.value().text;
+    return error;
+  }
+  std::string& content = bytes.value();
+  const auto fault = world().faults.call(Operation::kWrite, full.value().text);
+  if (fault && fault->code != kDiskFull) return *fault;
+  if (auto error = obstacle(full.value())) return *error;
+  // A disk that fills up has taken the file and a part of its bytes.
+  if (fault) content.resize(content.size() / 2);
+  world().files.put(full.value().text, std::move(content));
+  if (fault) return *fault;
+  return {};
+}
+
+Result<std::unique_ptr<FileReader>> openForReading(const std::string& path) {
+  const auto full = resolve(path);
+  if (!full) return full.error();
+  if (auto error = world().faults.call(Operation::kOpen, full.value().text)) return *error;
+  const Result<Node*> file = usableFile(full.value());
+  if (!file) return file.error();
+  return std::unique_ptr<FileReader>(std::make_unique<Reader>(*file.value()));
+}
+
+}  // namespace korventally

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+
+#include "platform/result.h"
+
+namespace korventally::headless {
+
+/// A path as the system resolves it: drive and names, no final backslash ("C:\Study", "C:").
+struct FullPath {
+  std::string text;
+  /// Whether it was given with a final backslash, which can only name a folder.
+  bool namesFolder = false;
+};
+
+/// Resolves a path against the root of drive C:, the current directory. Blanks and full stops at
+/// the end of the last name are dropped; wildcards and other characters that no name can hold are
+/// an error.
+Result<FullPath> resolve(std::string path);
+
+/// The folder that holds a full path; a drive holds itself.
+std::string parentOf(const std::string& fullPath);
+
+/// The form in which two names that differ only in case are equal.
+std::string foldCase(std::string name);
+
+/// The error of that number, with the system's sentence.
+Error systemError(long code, const std::string& path);
+
+}  // namespace korventally::headless

@@ -1,0 +1,36 @@
+#include "platform/process.h"
+
+#include <utility>
+
+#include "platform/headless/world.h"
+
+namespace korventally {
+namespace {
+
+class SimulatedRun : public BatchRun {
+ public:
+  explicit SimulatedRun(std::shared_ptr<headless::BatchProcess> process)
+      : process_(std::move(process)) {}
+  bool running() override { return process_->running(); }
+  void terminate() override { process_->terminate(); }
+
+ private:
+  const std::shared_ptr<headless::BatchProcess> process_;
+};
+
+}  // namespace
+
+std::string installationDirectory() { return Desktop::current().world().installation; }
+
+Result<std::unique_ptr<BatchRun>> startBatchFile(const std::string& path, WindowStyle style) {
+  Desktop::World& world = Desktop::current().world();
+  if (auto error = world.faults.call(Desktop::Operation::kStart, path)) return *error;
+  auto process = std::make_shared<headless::BatchProcess>(path);
+  world.processes.push_back(process);
+  world.styles.push_back(style);
+  // The interpreter starts on its own time: a file that is deleted at once is never read.
+  world.clock.at(world.clock.time() + 1, [process] { process->start(); });
+  return std::unique_ptr<BatchRun>(std::make_unique<SimulatedRun>(std::move(process)));
+}
+
+}  // namespace korventally
