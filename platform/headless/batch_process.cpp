@@ -29,11 +29,10 @@ std::vector<std::string> linesOf(const std::string& bytes) {
 }  // namespace
 
 void BatchProcess::start() {
-  if (!running_) return;
   if (const auto bytes = Desktop::current().fileBytes(path_)) {
     lines_ = linesOf(fromAnsi(*bytes));
   } else {
-    Desktop::onFailure("the batch file was gone before the interpreter could read it: " + path_);
+    Desktop::onFailure("a batch file was started that is not there: " + path_);
   }
   runLines();
 }

@@ -14,7 +14,7 @@ class BatchProcess : public std::enable_shared_from_this<BatchProcess> {
  public:
   explicit BatchProcess(std::string path) : path_(std::move(path)) {}
 
-  /// Reads the file and runs its first line.
+  /// Reads the file and runs it up to the first program that has to be waited for.
   void start();
   bool running() const { return running_; }
   bool engineRunning() const { return engine_ != nullptr; }

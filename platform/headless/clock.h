@@ -21,7 +21,7 @@ class Clock {
 
  private:
   std::uint64_t time_ = 0;
-  std::uint64_t offset_ = 1000000;
+  std::uint64_t offset_ = 0;
   std::multimap<std::uint64_t, std::function<void()>> planned_;
 };
 

@@ -28,8 +28,7 @@ Result<std::unique_ptr<BatchRun>> startBatchFile(const std::string& path, Window
   auto process = std::make_shared<headless::BatchProcess>(path);
   world.processes.push_back(process);
   world.styles.push_back(style);
-  // The interpreter starts on its own time: a file that is deleted at once is never read.
-  world.clock.at(world.clock.time() + 1, [process] { process->start(); });
+  process->start();
   return std::unique_ptr<BatchRun>(std::make_unique<SimulatedRun>(std::move(process)));
 }
 
