@@ -1,0 +1,117 @@
+#include "platform/files.h"
+
+#include <windows.h>
+
+#include <algorithm>
+
+#include "platform/win32/system/error.h"
+#include "platform/win32/system/handle.h"
+#include "platform/win32/system/path.h"
+
+namespace korventally {
+namespace {
+
+using win32::Handle;
+using win32::lastError;
+using win32::nativePath;
+
+/// Three more characters than "*" and "?" are wildcards to the system's file listing.
+bool hasWildcard(const std::string& path) {
+  return path.find_first_of("*?<>\"") != std::string::npos;
+}
+
+/// Whether the name is one of the reserved ones, such as NUL, that stand for a device anywhere.
+bool namesDevice(const std::string& path) {
+  wchar_t full[8] = L"";
+  const DWORD length = GetFullPathNameW(nativePath(path).c_str(), 8, full, nullptr);
+  return length < 8 && std::wstring(full, length).starts_with(L"\\\\.\\");
+}
+
+/// A short write without an error is how some file systems say that the disk is full.
+Status writeAll(const Handle& file, const std::string& content, const std::string& path) {
+  constexpr std::size_t kAtOnce = 1 << 20;
+  for (std::size_t done = 0; done < content.size();) {
+    const auto size = static_cast<DWORD>(std::min(content.size() - done, kAtOnce));
+    DWORD written = 0;
+    if (!WriteFile(file.get(), content.data() + done, size, &written, nullptr)) {
+      return lastError(path);
+    }
+    if (written != size) return win32::systemError(ERROR_DISK_FULL, path);
+    done += written;
+  }
+  return {};
+}
+
+class Win32FileReader : public FileReader {
+ public:
+  Win32FileReader(Handle file, std::string path) : file_(std::move(file)), path_(std::move(path)) {}
+
+  Result<std::size_t> read(std::span<char> buffer) override {
+    const auto size = static_cast<DWORD>(std::min<std::size_t>(buffer.size(), 1u << 30));
+    DWORD count = 0;
+    if (ReadFile(file_.get(), buffer.data(), size, &count, nullptr)) return std::size_t{count};
+    if (GetLastError() == ERROR_HANDLE_EOF) return std::size_t{0};
+    return lastError(path_);
+  }
+
+ private:
+  Handle file_;
+  std::string path_;
+};
+
+}  // namespace
+
+bool fileExists(const std::string& path) {
+  if (hasWildcard(path) || namesDevice(path)) return false;
+  constexpr DWORD kNotOrdinary = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_HIDDEN |
+                                 FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_DEVICE;
+  const DWORD attributes = GetFileAttributesW(nativePath(path).c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & kNotOrdinary) == 0;
+}
+
+bool folderListsEntries(const std::string& path) {
+  if (!path.ends_with('\\') || hasWildcard(path)) return false;
+  WIN32_FIND_DATAW entry;
+  HANDLE search = FindFirstFileW(nativePath(path + "*").c_str(), &entry);
+  if (search == INVALID_HANDLE_VALUE) return false;
+  FindClose(search);
+  return true;
+}
+
+Status deleteFile(const std::string& path) {
+  if (!DeleteFileW(nativePath(path).c_str())) return lastError(path);
+  return {};
+}
+
+Status writeTextFile(const std::string& path, const std::vector<std::string>& lines) {
+  std::string content;
+  for (const std::string& line : lines) {
+    auto bytes = toAnsi(line);
+    if (!bytes) {
+      Error error = bytes.error();
+      error.path = win32::fullPath(path);
+      return error;
+    }
+    content += bytes.value() + "\r\n";
+  }
+  Handle file(CreateFileW(nativePath(path).c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
+                          CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
+  if (!file) return lastError(path);
+  if (Status written = writeAll(file, content, path); !written) return written;
+  if (!FlushFileBuffers(file.get()) || !file.close()) return lastError(path);
+  return {};
+}
+
+Result<std::unique_ptr<FileReader>> openForReading(const std::string& path) {
+  constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+  Handle file(CreateFileW(nativePath(path).c_str(), GENERIC_READ, kShareAll, nullptr, OPEN_EXISTING,
+                          FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+  if (!file) return lastError(path);
+  // Reading from a console or a pipe would wait for somebody who never writes.
+  if (GetFileType(file.get()) != FILE_TYPE_DISK) {
+    return win32::systemError(ERROR_BAD_FILE_TYPE, path);
+  }
+  return std::unique_ptr<FileReader>(std::make_unique<Win32FileReader>(std::move(file), path));
+}
+
+}  // namespace korventally
