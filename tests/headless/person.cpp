@@ -46,10 +46,14 @@ bool pressButton(Control& control) {
   }
 }
 
+std::u32string charactersOf(const std::string& text) {
+  return headless::decodeUtf8(text).value_or(U"");
+}
+
 /// Limits count as Windows counts: two for a character beyond the basic plane.
 int lengthOf(const std::string& text) {
   int length = 0;
-  for (const char32_t character : headless::decodeUtf8(text).value()) {
+  for (const char32_t character : charactersOf(text)) {
     length += character < 0x10000 ? 1 : 2;
   }
   return length;
@@ -64,7 +68,7 @@ void typeCharacter(TextBox& box, char32_t character) {
 
 void pressBackspace(TextBox& box) {
   if (!box.acceptsKey(kBackspaceCode)) return;
-  std::u32string characters = headless::decodeUtf8(box.text()).value();
+  std::u32string characters = charactersOf(box.text());
   if (!characters.empty()) characters.pop_back();
   std::string text;
   for (const char32_t character : characters) headless::appendUtf8(text, character);
@@ -109,7 +113,7 @@ void click(Control& control) {
 
 void type(TextBox& box, const std::string& text) {
   if (!focusOn(box)) return;
-  for (const char32_t character : headless::decodeUtf8(text).value()) typeCharacter(box, character);
+  for (const char32_t character : charactersOf(text)) typeCharacter(box, character);
 }
 
 void paste(TextBox& box, const std::string& text) {
@@ -119,7 +123,7 @@ void paste(TextBox& box, const std::string& text) {
   const bool quoted = line.size() >= 2 && line.starts_with('"') && line.ends_with('"');
   if (box.takesPath() && quoted) line = line.substr(1, line.size() - 2);
   std::string pasted;
-  for (const char32_t character : headless::decodeUtf8(line).value()) {
+  for (const char32_t character : charactersOf(line)) {
     std::string longer = pasted;
     headless::appendUtf8(longer, character);
     if (box.limit() != 0 && lengthOf(longer) > box.limit()) break;

@@ -1,0 +1,195 @@
+#include "platform/files.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/platform/contract/world.h"
+
+namespace korventally::testing {
+namespace {
+
+class Files : public ::testing::Test {
+ protected:
+  /// All bytes of a file, read in small bites.
+  static std::string bytesOf(const std::string& path) {
+    const auto reader = openForReading(path);
+    return reader ? restOf(*reader.value()) : "cannot be opened: " + reader.error().text;
+  }
+
+  static std::string restOf(FileReader& reader) {
+    std::string bytes;
+    char bite[7];
+    while (true) {
+      const auto count = reader.read(bite);
+      if (!count || count.value() == 0) return bytes;
+      bytes.append(bite, count.value());
+    }
+  }
+
+  World world;
+  const std::string folder = world.freshFolder();
+};
+
+TEST_F(Files, AreWrittenByteForByte) {
+  const struct {
+    std::vector<std::string> lines;
+    std::string bytes;
+  } table[] = {
+      {{"a much longer file", "", "of three lines"},
+       "a much longer file\r\n\r\nof three lines\r\n"},
+      {{"short"}, "short\r\n"},
+      {{" blanks kept ", "50%, \"quoted\"\ttab"}, " blanks kept \r\n50%, \"quoted\"\ttab\r\n"},
+      {{"é €"}, "\xE9 \x80\r\n"},
+      {{}, ""},
+  };
+  for (const auto& row : table) {
+    const Status written = writeTextFile(folder + "same.txt", row.lines);
+    ASSERT_TRUE(written) << written.error().text;
+    EXPECT_EQ(bytesOf(folder + "SAME.TXT"), row.bytes) << "replaced, whatever the case of the name";
+  }
+}
+
+TEST_F(Files, AreNotTouchedWhenTheTextIsNotAnsi) {
+  const std::string path = folder + "kept.txt";
+  ASSERT_TRUE(writeTextFile(path, {"kept"}));
+  const Status refused = writeTextFile(path, {"fine", "not 日本 fine"});
+  ASSERT_FALSE(refused);
+  EXPECT_EQ(refused.error().kind, ErrorKind::kNotAnsi);
+  EXPECT_NE(refused.error().text.find("not 日本 fine"), std::string::npos) << refused.error().text;
+  EXPECT_EQ(refused.error().path, path);
+  EXPECT_EQ(bytesOf(path), "kept\r\n");
+  EXPECT_FALSE(writeTextFile(folder + "new.txt", {"日本"}));
+  EXPECT_FALSE(fileExists(folder + "new.txt")) << "nor created";
+}
+
+TEST_F(Files, TextGoesToAnsiAndBackOrNotAtAll) {
+  for (const std::string text : {"", "plain", "Sûr & (co) é€", "„Anführung“ – ½"}) {
+    const auto bytes = toAnsi(text);
+    ASSERT_TRUE(bytes) << text;
+    EXPECT_EQ(fromAnsi(bytes.value()), text);
+  }
+  EXPECT_EQ(toAnsi("é€").value(), "\xE9\x80");
+  // Look-alikes of quote, percent and ampersand, which a best fit would turn into syntax.
+  for (const std::string text : {"＂", "％", "＆", "a日", "\xFF", "😀", "ā"}) {
+    const auto bytes = toAnsi(text);
+    ASSERT_FALSE(bytes) << text;
+    EXPECT_EQ(bytes.error().kind, ErrorKind::kNotAnsi);
+  }
+}
+
+TEST_F(Files, ExistOnlyAsOrdinaryFiles) {
+  ASSERT_TRUE(writeTextFile(folder + "Here é.txt", {}));
+  world.append(folder + "read-only", "x");
+  world.makeReadOnly(folder + "read-only");
+  world.append(folder + "hidden", "x");
+  world.hide(folder + "hidden");
+  world.makeFolder(folder + "sub");
+  const struct {
+    const char* name;
+    bool exists;
+  } table[] = {{"Here é.txt", true},    {"here É.TXT", true}, {"Here é.txt  ", true},
+               {"read-only", true},     {"hidden", false},    {"sub", false},
+               {"sub\\", false},        {"*", false},         {"Here?é.txt", false},
+               {"missing", false},      {"", false},          {"sub\\..\\read-only", true},
+               {"Here é.txt\\", false}, {"none\\x", false}};
+  for (const auto& row : table) EXPECT_EQ(fileExists(folder + row.name), row.exists) << row.name;
+  EXPECT_FALSE(fileExists(""));
+}
+
+TEST_F(Files, FoldersListThemselvesUnlessTheyAreMissing) {
+  world.makeFolder(folder + "empty");
+  ASSERT_TRUE(writeTextFile(folder + "file", {}));
+  EXPECT_TRUE(folderListsEntries(folder));
+  EXPECT_TRUE(folderListsEntries(folder + "empty\\"));
+  EXPECT_TRUE(folderListsEntries("\\")) << "the root of the current drive";
+  for (const char* name : {"missing\\", "file\\", "empty  \\", "em*\\", "missing\\empty\\"}) {
+    EXPECT_FALSE(folderListsEntries(folder + name)) << name;
+  }
+}
+
+TEST_F(Files, AreDeletedOrSayWhyNot) {
+  ASSERT_TRUE(writeTextFile(folder + "file", {}));
+  EXPECT_TRUE(deleteFile(folder + "file"));
+  EXPECT_FALSE(fileExists(folder + "file"));
+  const struct {
+    const char* name;
+    ErrorKind kind;
+    long code;
+  } table[] = {{"file", ErrorKind::kNotFound, 2},
+               {"none\\file", ErrorKind::kNotFound, 3},
+               {"sub", ErrorKind::kOther, 5},
+               {"read-only", ErrorKind::kOther, 5},
+               {"held", ErrorKind::kBusy, 32}};
+  world.makeFolder(folder + "sub");
+  world.append(folder + "read-only", "kept");
+  world.makeReadOnly(folder + "read-only");
+  world.append(folder + "held", "kept");
+  auto held = world.hold(folder + "held");
+  for (const auto& row : table) {
+    const Status deleted = deleteFile(folder + row.name);
+    ASSERT_FALSE(deleted) << row.name;
+    EXPECT_EQ(deleted.error().kind, row.kind) << row.name;
+    EXPECT_EQ(deleted.error().code, row.code) << row.name;
+    EXPECT_EQ(deleted.error().path, folder + row.name);
+    EXPECT_GT(deleted.error().text.size(), 10u);
+  }
+  EXPECT_EQ(bytesOf(folder + "read-only"), "kept");
+  held.reset();
+  EXPECT_EQ(bytesOf(folder + "held"), "kept");
+  EXPECT_TRUE(deleteFile(folder + "held"));
+}
+
+TEST_F(Files, CannotBeWrittenEverywhere) {
+  world.makeFolder(folder + "sub");
+  world.append(folder + "read-only", "kept");
+  world.makeReadOnly(folder + "read-only");
+  world.append(folder + "held", "kept");
+  const struct {
+    const char* name;
+    ErrorKind kind;
+  } table[] = {{"none\\file", ErrorKind::kNotFound},
+               {"sub", ErrorKind::kOther},
+               {"read-only", ErrorKind::kOther},
+               {"wild*card", ErrorKind::kOther},
+               {"held", ErrorKind::kBusy}};
+  const auto held = world.hold(folder + "held");
+  for (const auto& row : table) {
+    const Status written = writeTextFile(folder + row.name, {"new"});
+    ASSERT_FALSE(written) << row.name;
+    EXPECT_EQ(written.error().kind, row.kind) << row.name << ": " << written.error().text;
+    EXPECT_EQ(written.error().path, folder + row.name);
+  }
+  EXPECT_EQ(bytesOf(folder + "read-only"), "kept");
+  const auto opened = openForReading(folder + "held");
+  ASSERT_FALSE(opened);
+  EXPECT_EQ(opened.error().kind, ErrorKind::kBusy);
+}
+
+TEST_F(Files, CannotBeReadIfThereAreNone) {
+  world.makeFolder(folder + "sub");
+  for (const char* name : {"missing", "none\\file"}) {
+    const auto opened = openForReading(folder + name);
+    ASSERT_FALSE(opened) << name;
+    EXPECT_EQ(opened.error().kind, ErrorKind::kNotFound) << name;
+  }
+  EXPECT_FALSE(openForReading(folder + "sub"));
+}
+
+TEST_F(Files, LetOthersWriteAndDeleteWhileTheyAreRead) {
+  const std::string path = folder + "growing.lst";
+  world.append(path, "RUN \r\n");
+  const auto opened = openForReading(path);
+  ASSERT_TRUE(opened);
+  FileReader& reader = *opened.value();
+  EXPECT_EQ(restOf(reader), "RUN \r\n");
+  EXPECT_EQ(restOf(reader), "");
+  const std::string late("COM\0PLETED", 10);
+  world.append(path, late);
+  EXPECT_EQ(restOf(reader), late);
+  const auto second = openForReading(path);
+  ASSERT_TRUE(second);
+  EXPECT_TRUE(deleteFile(path));
+  EXPECT_EQ(restOf(*second.value()).size(), 16u) << "what is open can be read to its end";
+}
+
+}  // namespace
+}  // namespace korventally::testing

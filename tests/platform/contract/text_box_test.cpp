@@ -1,0 +1,124 @@
+#include <gtest/gtest.h>
+
+#include "tests/person.h"
+#include "tests/platform/contract/form.h"
+#include "tests/platform/contract/world.h"
+
+namespace korventally::testing {
+namespace {
+
+class TextBoxes : public ::testing::Test {
+ protected:
+  void visit(const std::function<void()>& doings) { form.open(doings); }
+
+  World world;
+  Form form;
+};
+
+TEST_F(TextBoxes, HoldWhatIsTypedAndPasted) {
+  visit([&] {
+    for (const std::string text : {"C:\\Study", "a & b", "5 € für é", "日本"}) {
+      paste(form.box, "");
+      type(form.box, text);
+      EXPECT_EQ(form.box.text(), text);
+      paste(form.box, text + text);
+      EXPECT_EQ(form.box.text(), text + text);
+    }
+    type(form.box, "!");
+    EXPECT_EQ(form.box.text(), "日本日本!");
+    form.box.setText("code");
+    type(form.box, "+");
+    press(form, Key::kSpace);
+    EXPECT_EQ(form.box.text(), "code+ ");
+    press(form, Key::kBackspace);
+    press(form, Key::kBackspace);
+    EXPECT_EQ(form.box.text(), "code");
+  });
+  EXPECT_EQ(form.box.text(), "code") << "also after the window is gone";
+}
+
+TEST_F(TextBoxes, LimitThePersonAndNotTheCode) {
+  visit([&] {
+    type(form.shortBox, "123456");
+    EXPECT_EQ(form.shortBox.text(), "1234");
+    press(form, Key::kBackspace);
+    type(form.shortBox, "é9");
+    EXPECT_EQ(form.shortBox.text(), "123é");
+    paste(form.shortBox, "abcdefgh");
+    EXPECT_EQ(form.shortBox.text(), "abcd");
+    form.shortBox.setText("from code");
+    EXPECT_EQ(form.shortBox.text(), "from code");
+    type(form.shortBox, "x");
+    EXPECT_EQ(form.shortBox.text(), "from code");
+    press(form, Key::kBackspace);
+    EXPECT_EQ(form.shortBox.text(), "from cod");
+  });
+}
+
+TEST_F(TextBoxes, ShowEveryKeystrokeToTheFilterFirst) {
+  std::vector<int> seen;
+  form.box.onKeyPress = [&](std::int16_t& code) {
+    seen.push_back(code);
+    if (code == 'b') code = 0;
+  };
+  visit([&] {
+    type(form.box, "abcb");
+    EXPECT_EQ(form.box.text(), "ac");
+    press(form, Key::kEnter);
+    press(form, Key::kBackspace);
+    EXPECT_EQ(form.box.text(), "a");
+    EXPECT_EQ(seen, (std::vector<int>{'a', 'b', 'c', 'b', 13, 8}));
+    seen.clear();
+    paste(form.box, "bbb");
+    EXPECT_EQ(form.box.text(), "bbb") << "a paste is no keystroke";
+  });
+}
+
+TEST_F(TextBoxes, CanDiscardBackspaceToo) {
+  form.box.onKeyPress = [](std::int16_t& code) { code = 0; };
+  visit([&] {
+    form.box.setText("kept");
+    click(form.box);
+    press(form, Key::kBackspace);
+    type(form.box, "x");
+    EXPECT_EQ(form.box.text(), "kept");
+  });
+}
+
+TEST_F(TextBoxes, NeverTakeEnterNorASecondLine) {
+  visit([&] {
+    type(form.box, "a");
+    press(form, Key::kEnter);
+    type(form.box, "b");
+    EXPECT_EQ(form.box.text(), "ab");
+    EXPECT_EQ(form.focused(), &form.box);
+    paste(form.box, "one\r\ntwo");
+    EXPECT_EQ(form.box.text(), "one");
+  });
+}
+
+TEST_F(TextBoxes, TakeTheQuotesFromAPastedPath) {
+  form.shortBox.setTakesPath();
+  visit([&] {
+    paste(form.box, "\"a b\"");
+    EXPECT_EQ(form.box.text(), "\"a b\"");
+    form.box.setTakesPath();
+    paste(form.box, "\"C:\\My Study\"");
+    EXPECT_EQ(form.box.text(), "C:\\My Study");
+    paste(form.shortBox, "\"1234\"");
+    EXPECT_EQ(form.shortBox.text(), "1234");
+  });
+}
+
+TEST_F(TextBoxes, TakeNothingWhileTheyAreClosed) {
+  visit([&] {
+    form.box.setText("kept");
+    form.box.setEnabled(false);
+    type(form.box, "x");
+    paste(form.box, "y");
+    EXPECT_EQ(form.box.text(), "kept");
+  });
+}
+
+}  // namespace
+}  // namespace korventally::testing

@@ -1,0 +1,151 @@
+#include <gtest/gtest.h>
+
+#include "platform/events.h"
+#include "tests/person.h"
+#include "tests/platform/contract/form.h"
+#include "tests/platform/contract/world.h"
+
+namespace korventally::testing {
+namespace {
+
+class Windows : public ::testing::Test {
+ protected:
+  World world;
+  Form form;
+  Form second{"Second"};
+};
+
+TEST_F(Windows, AskBeforeThePersonClosesThem) {
+  form.open([&] {
+    form.takeLog();
+    form.refusesToClose = true;
+    clickCloseBox(form);
+    EXPECT_TRUE(form.isOpen());
+    EXPECT_EQ(form.takeLog(), Log{"query"});
+    type(form.box, "still usable");
+    EXPECT_EQ(form.box.text(), "still usable");
+    form.takeLog();
+    form.refusesToClose = false;
+    clickCloseBox(form);
+    EXPECT_FALSE(form.isOpen());
+    EXPECT_EQ(form.takeLog(), (Log{"query", "unload"}));
+  });
+  EXPECT_EQ(form.takeLog(), Log{}) << "closed once";
+}
+
+TEST_F(Windows, CloseOnEscapeOnlyIfTheySaySo) {
+  form.open([&] {
+    form.takeLog();
+    press(form, Key::kEscape);
+    EXPECT_EQ(form.takeLog(), Log{});
+    form.escapeCloses = true;
+    form.refusesToClose = true;
+    press(form, Key::kEscape);
+    EXPECT_EQ(form.takeLog(), Log{"query"});
+    form.refusesToClose = false;
+    press(form, Key::kEscape);
+    EXPECT_FALSE(form.isOpen());
+  });
+}
+
+TEST_F(Windows, AreClosedByCodeWithoutAQuestion) {
+  form.refusesToClose = true;
+  form.open([] {});
+  EXPECT_EQ(form.takeLog(), (Log{"load", "box got", "unload"}));
+}
+
+TEST_F(Windows, LoadAfreshAndKeepTheirControls) {
+  form.open([&] {
+    type(form.box, "kept");
+    click(form.large);
+    click(form.last);
+    form.last.setEnabled(false);
+  });
+  form.takeLog();
+  form.open([&] {
+    EXPECT_EQ(form.takeLog(), (Log{"load", "box got"}));
+    EXPECT_EQ(form.box.text(), "kept");
+    EXPECT_TRUE(form.large.selected());
+    type(form.box, "!");
+    EXPECT_EQ(form.box.text(), "kept!");
+    form.takeLog();
+    click(form.last);
+    EXPECT_EQ(form.takeLog(), Log{});
+  });
+}
+
+TEST_F(Windows, ThatAreModalLockTheirOwnerUntilTheyClose) {
+  form.open([&] {
+    form.takeLog();
+    second.open(
+        [&] {
+          EXPECT_EQ(Window::openWindows(), (std::vector<Window*>{&form, &second}));
+          click(form.last);
+          type(form.box, "x");
+          clickCloseBox(form);
+          EXPECT_EQ(form.takeLog(), Log{});
+          EXPECT_EQ(form.box.text(), "");
+          click(second.last);
+          EXPECT_EQ(second.takeLog().back(), "last click");
+        },
+        &form);
+    EXPECT_EQ(form.takeLog(), Log{}) << "going to another window and back is no change of focus";
+    EXPECT_EQ(form.focused(), &form.box);
+    type(form.box, "y");
+    EXPECT_EQ(form.box.text(), "y");
+    click(form.last);
+    EXPECT_EQ(form.takeLog().back(), "last click");
+  });
+}
+
+TEST_F(Windows, CanBeClosedByTheirOwnHandlers) {
+  std::string after;
+  form.button.onClick = [&] {
+    form.unload();
+    form.box.setText("after");
+    after = form.box.text();
+  };
+  form.open([&] {
+    click(form.button);
+    EXPECT_FALSE(form.isOpen());
+  });
+  EXPECT_EQ(after, "after");
+  form.box.onLostFocus = [&] { form.unload(); };
+  form.open([&] {
+    press(form, Key::kTab);
+    EXPECT_FALSE(form.isOpen());
+  });
+}
+
+TEST_F(Windows, CanBeClosedWhileAHandlerHandlesEvents) {
+  form.button.onClick = [&] {
+    runLater("close", 0, [&] { clickCloseBox(form); });
+    while (form.isOpen()) processPendingEvents();
+    form.last.setEnabled(false);
+    form.log.push_back("went on");
+  };
+  form.open([&] {
+    click(form.button);
+    EXPECT_EQ(form.takeLog().back(), "went on");
+  });
+  EXPECT_EQ(Window::openWindows(), std::vector<Window*>{});
+}
+
+TEST_F(Windows, AreAllClosedFromTheYoungestOn) {
+  Log order;
+  form.open([&] {
+    second.open(
+        [&] {
+          Window::unloadAll();
+          EXPECT_FALSE(form.isOpen() || second.isOpen());
+        },
+        &form);
+    EXPECT_FALSE(form.isOpen()) << "the code that showed the second window runs on";
+    form.log.push_back("went on");
+  });
+  EXPECT_EQ(form.takeLog(), (Log{"load", "box got", "unload", "went on"}));
+  EXPECT_EQ(second.takeLog().back(), "unload");
+}
+
+}  // namespace
+}  // namespace korventally::testing
