@@ -32,8 +32,10 @@ class [[nodiscard]] Result {
 
   bool ok() const { return content_.index() == 0; }
   explicit operator bool() const { return ok(); }
-  T& value() { return std::get<0>(content_); }
-  const T& value() const { return std::get<0>(content_); }
+  T& value() & { return std::get<0>(content_); }
+  const T& value() const& { return std::get<0>(content_); }
+  /// By value, so that nothing refers into a result that is gone.
+  T value() && { return std::get<0>(std::move(content_)); }
   const Error& error() const { return std::get<1>(content_); }
 
  private:

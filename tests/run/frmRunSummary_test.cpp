@@ -1,0 +1,256 @@
+#include "run/frmRunSummary.h"
+
+#include "platform/events.h"
+#include "platform/later.h"
+#include "tests/study.h"
+
+namespace korventally::testing {
+namespace {
+
+constexpr const char* kStop = "The engine is still running. Stop it and close this window?";
+constexpr const char* kDone = "RUN COMPLETED";
+constexpr const char* kFailed = "RUN FAILED - SEE LIST FILE";
+
+class RunSummary : public Study {
+ protected:
+  const std::string list = kStudy + "korventally.lst";
+
+  /// Texts of a question about a run that shows no verdict.
+  std::string keepWaiting(const std::string& what) const {
+    return what + "\n" + list +
+           "\n\nKeep waiting for it? \"Yes\" waits another 30 seconds, \"No\" ends the run.";
+  }
+  static void expectIdle(const frmRunSummary& s, const std::string& status) {
+    EXPECT_EQ(s.lblStatus.text(), status);
+    EXPECT_EQ(s.lblRunning.text(), "");
+    EXPECT_TRUE(s.cmdRUN.usable());
+    EXPECT_TRUE(s.cmdBack.usable());
+  }
+};
+
+TEST_F(RunSummary, ShowsTheCase) {
+  inSummary([](frmRunSummary& s) {
+    EXPECT_EQ(s.lblAnalysisType.text(), "Class II PSD/SIL");
+    EXPECT_EQ(s.lblNAAQSPSDLimit.text(), "PSD Increment:");
+    EXPECT_EQ(s.txtNAAQSPSDLimit.text() + s.lblNAAQSPSDLimitValue.text(), "91.0ug/m**3");
+    EXPECT_EQ(s.txtSILLimit.text() + s.lblSILLimitValue.text(), "5.0ug/m**3");
+    EXPECT_EQ(s.txtSpecies.text() + s.txtAvePeriod.text(), "SO224");
+    EXPECT_FALSE(s.lblAmbientBckg.visible());
+    EXPECT_FALSE(s.lblAmbientConc.visible());
+    EXPECT_EQ(s.lblRank1_YesNo.text(), "Included");
+    EXPECT_TRUE(s.chkAutoOpen.checked());
+    EXPECT_EQ(s.focused(), &s.cmdRUN);
+    expectIdle(s, "");
+  });
+  theCase.Standard = "NAAQS";
+  theCase.AreaClass = "Class I";
+  theCase.AmbientBackground = "12.5";
+  theCase.Rank1Flag = "T";
+  expectSummary([](frmRunSummary& s) {
+    EXPECT_EQ(s.lblAnalysisType.text(), "Class I NAAQS/SIL");
+    EXPECT_EQ(s.lblNAAQSPSDLimit.text(), "NAAQS Standard:");
+    EXPECT_TRUE(s.lblAmbientBckg.visible());
+    EXPECT_EQ(s.lblAmbientConc.text(), "12.5 ug/m**3");
+    EXPECT_EQ(s.lblRank1_YesNo.text(), "Excluded");
+  });
+  frmRunSummary().show();
+}
+
+TEST_F(RunSummary, LimitsTakeDecimalsAndEnterMovesOn) {
+  inSummary([](frmRunSummary& s) {
+    s.txtNAAQSPSDLimit.setText("");
+    s.txtSpecies.setText("");
+    type(s.txtNAAQSPSDLimit, "-1 2.a5.");
+    EXPECT_EQ(s.txtNAAQSPSDLimit.text(), "12.5.");
+    press(s, Key::kEnter);
+    EXPECT_EQ(s.focused(), &s.txtSILLimit);
+    press(s, Key::kEnter);
+    EXPECT_EQ(s.focused(), &s.cmdBack);
+    type(s.txtSpecies, "a -1");
+    EXPECT_EQ(s.txtSpecies.text(), "a -1");
+  });
+}
+
+TEST_F(RunSummary, RunsTheEngineToItsVerdictAndTidiesUp) {
+  inSummary([&](frmRunSummary& s) {
+    desktop.putFile(list, "RUN FAILED\r\n");
+    std::vector<std::string> running;
+    for (const std::uint32_t when : {60u, 1200u, 1700u, 2200u}) {
+      desktop.at(when, [&] {
+        EXPECT_FALSE(s.cmdRUN.enabled());
+        EXPECT_FALSE(s.cmdBack.enabled());
+        EXPECT_TRUE(s.txtSpecies.usable());
+        EXPECT_EQ(s.lblStatus.text(), "");
+        running.push_back(s.lblRunning.text());
+      });
+    }
+    s.txtSILLimit.setText("  7.5 ");
+    click(s.cmdRUN);
+    EXPECT_EQ(running, (std::vector<std::string>{"", "Running.", "Running..", "Running..."}));
+    expectIdle(s, kDone);
+    EXPECT_EQ(theCase.SilLimit, "7.5");
+    EXPECT_EQ(desktop.filesInNotepad(), std::vector<std::string>{list});
+    EXPECT_EQ(leftovers(), (std::vector<std::string>{"korventally.lst", "open_file.bat"}));
+    desktop.advance(5000);
+    EXPECT_EQ(leftovers(), std::vector<std::string>{"korventally.lst"});
+  });
+}
+
+TEST_F(RunSummary, HandsTheEngineTheControlFileOfTheCase) {
+  std::string path, bytes;
+  desktop.setEngine([&](Desktop::Engine& engine) {
+    path = engine.controlFile();
+    bytes = engine.controlBytes();
+    engine.writeLine(10, "RUN FAILED");
+  });
+  inSummary([&](frmRunSummary& s) {
+    s.chkAutoOpen.setChecked(false);
+    s.txtSpecies.setText(" NOX ");
+    click(s.cmdRUN);
+    expectIdle(s, kFailed);
+  });
+  EXPECT_EQ(path, kStudy + "korventally.inp");
+  EXPECT_NE(bytes.find(":NOX\r\n"), std::string::npos);
+  EXPECT_TRUE(desktop.filesInNotepad().empty());
+  EXPECT_EQ(leftovers(), std::vector<std::string>{"korventally.lst"});
+}
+
+TEST_F(RunSummary, DebugModeKeepsTheFilesAndPauses) {
+  inSummary([&](frmRunSummary& s) {
+    theCase.DebugMode = true;
+    s.chkAutoOpen.setChecked(false);
+    click(s.cmdRUN);
+    expectIdle(s, kDone);
+    EXPECT_EQ(desktop.fileBytes(kStudy + "run_korventally.bat"),
+              "\"D:\\Prog\\korventally.exe\" \"C:\\Study\\korventally.inp\"\r\npause\r\n");
+    EXPECT_TRUE(desktop.fileBytes(kStudy + "korventally.inp"));
+    click(s.cmdRUN);
+    expectIdle(s, kDone);
+  });
+}
+
+TEST_F(RunSummary, ASecondRunFitsIntoTheEditorsFiveSeconds) {
+  inSummary([&](frmRunSummary& s) {
+    click(s.cmdRUN);
+    desktop.advance(1000);
+    click(s.cmdRUN);
+    expectIdle(s, kDone);
+    EXPECT_EQ(desktop.enginesStarted(), 2);
+    EXPECT_EQ(desktop.filesInNotepad().size(), 2u);
+  });
+  EXPECT_EQ(leftovers(), (std::vector<std::string>{"korventally.lst", "open_file.bat"}));
+  finishLater();
+  EXPECT_EQ(leftovers(), std::vector<std::string>{"korventally.lst"});
+}
+
+TEST_F(RunSummary, OnePressStartsOneRun) {
+  inSummary([&](frmRunSummary& s) {
+    // While the first press still prepares its files, the button can be pressed again.
+    desktop.at(20, [&] { s.cmdRUN.press(); });
+    click(s.cmdRUN);
+    EXPECT_EQ(desktop.enginesStarted(), 1);
+    expectIdle(s, kDone);
+  });
+}
+
+TEST_F(RunSummary, ClosingDuringARunStopsTheEngineIfTheUserSaysSo) {
+  engineWrites({{500, "still at it"}, {9000, "RUN COMPLETED"}}, 0);
+  inSummary([&](frmRunSummary& s) {
+    desktop.at(1500, [&] {
+      desktop.expectMessage(kStop, "Warning", Answer::kNo);
+      s.requestClose();
+      EXPECT_TRUE(s.isOpen());
+      EXPECT_TRUE(desktop.enginesRunning());
+    });
+    desktop.at(4000, [&] {
+      desktop.expectMessage(kStop, "Warning", Answer::kYes);
+      s.requestClose();
+      EXPECT_FALSE(s.isOpen());
+      EXPECT_FALSE(desktop.enginesRunning());
+    });
+    click(s.cmdRUN);
+    EXPECT_EQ(s.RunStatus, std::nullopt);
+  });
+  EXPECT_EQ(leftovers(), std::vector<std::string>{"korventally.lst"});
+  EXPECT_TRUE(desktop.filesInNotepad().empty());
+}
+
+TEST_F(RunSummary, TheSessionCanEndDuringARun) {
+  engineWrites({}, 0);
+  inSummary([&](frmRunSummary& s) {
+    EXPECT_EQ(s.sessionEndObjection(), "");
+    desktop.at(1500, [&] {
+      EXPECT_NE(s.sessionEndObjection(), "");
+      s.sessionEnds();
+      EXPECT_TRUE(leftovers().empty()) << "at once: there is no time left";
+      Window::unloadAll();
+    });
+    click(s.cmdRUN);
+  });
+  EXPECT_FALSE(desktop.enginesRunning());
+}
+
+TEST_F(RunSummary, AsksOnceWhenTheListFileDoesNotCome) {
+  engineWrites({{70000, "RUN COMPLETED"}}, 0);
+  inSummary([&](frmRunSummary& s) {
+    const std::string question = keepWaiting("The engine has not written its list file yet:");
+    const std::uint32_t start = desktop.now();
+    std::vector<std::uint32_t> asked;
+    const auto note = [&] { asked.push_back(desktop.now() - start); };
+    desktop.expectMessage(question, "Warning", Answer::kYes, note);
+    desktop.expectMessage(question, "Warning", Answer::kNo, note);
+    click(s.cmdRUN);
+    ASSERT_EQ(asked.size(), 2u);
+    EXPECT_NEAR(asked[0], 30000, 200);
+    EXPECT_NEAR(asked[1], 60000, 300);
+    expectIdle(s, "");
+    EXPECT_FALSE(desktop.enginesRunning());
+    EXPECT_TRUE(leftovers().empty());
+  });
+}
+
+TEST_F(RunSummary, AsksWhenTheEngineIsGoneWithoutAVerdict) {
+  const struct {
+    std::vector<std::pair<std::uint32_t, std::string>> lines;
+    std::uint32_t ends;
+    const char* what;
+  } rows[] = {
+      {{}, 100, "The engine has ended without writing its list file:"},
+      {{{50, "RUN COMPLETED?"}}, 100, "The engine has ended without a verdict in its list file:"},
+  };
+  for (const auto& row : rows) {
+    engineWrites(row.lines, row.ends);
+    inSummary([&](frmRunSummary& s) {
+      desktop.expectMessage(keepWaiting(row.what), "Warning", Answer::kYes);
+      // Somebody else's verdict in the list file counts as well as the engine's.
+      desktop.at(8000, [&] { desktop.putFile(list, "RUN COMPLETED"); });
+      click(s.cmdRUN);
+      expectIdle(s, kDone);
+      desktop.expectMessage(keepWaiting(row.what), "Warning", Answer::kNo);
+      click(s.cmdRUN);
+      expectIdle(s, "");
+    });
+  }
+}
+
+TEST_F(RunSummary, TakesAVerdictWrittenJustBeforeTheEngineEnds) {
+  engineWrites({{1100, "RUN COMPLETED"}}, 1101);
+  inSummary([&](frmRunSummary& s) {
+    click(s.cmdRUN);
+    expectIdle(s, kDone);
+  });
+}
+
+TEST_F(RunSummary, ReadsAroundALockedListFile) {
+  desktop.setEngine([&](Desktop::Engine& engine) {
+    engine.writeLine(100, "RUN COMPLETED");
+    engine.at(101, [&] { desktop.lockFile(list, 5000); });
+  });
+  inSummary([&](frmRunSummary& s) {
+    click(s.cmdRUN);
+    expectIdle(s, kDone);
+  });
+}
+
+}  // namespace
+}  // namespace korventally::testing

@@ -1,0 +1,69 @@
+#include "run/verdict.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/headless/desktop.h"
+
+namespace korventally::testing {
+namespace {
+
+constexpr auto kCompleted = Verdict::kCompleted;
+constexpr auto kFailed = Verdict::kFailed;
+
+TEST(VerdictScanner, TakesTheLastWholeLineThatIsAVerdict) {
+  const std::string longLine(1'000'000, 'x');
+  const struct {
+    std::string bytes;
+    std::optional<Verdict> verdict;
+  } rows[] = {
+      {"RUN COMPLETED\r\n", kCompleted},
+      {"listing\r\n   RUN FAILED  \r\n", kFailed},
+      {"RUN COMPLETED", kCompleted},
+      {"a\nRUN COMPLETED\nb\n", kCompleted},
+      {"a\rRUN FAILED\rb\r", kFailed},
+      {"RUN FAILED\r\nRUN COMPLETED\r\n", kCompleted},
+      {"RUN COMPLETED\r\nRUN FAILED\r\n", kFailed},
+      {"RUN FAILED\r\n\r\nRUN COMPLETED.\r\n", kFailed},
+      {longLine + "\r\nRUN COMPLETED\r\n" + longLine, kCompleted},
+      {"", std::nullopt},
+      {"run completed\r\n", std::nullopt},
+      {"RUN COMPLETED.\r\n", std::nullopt},
+      {"\tRUN COMPLETED\r\n", std::nullopt},
+      {"RUN COMPLETED\t\r\n", std::nullopt},
+      {"RUN  COMPLETED\r\n", std::nullopt},
+      {"THE RUN COMPLETED\r\n", std::nullopt},
+      {"RUN COMPLETED IN PART\r\n", std::nullopt},
+      {"RUN\r\nCOMPLETED\r\n", std::nullopt},
+      {std::string("RUN COMPLETED\0\r\n", 16), std::nullopt},
+      {std::string("R\0U\0N\0 \0F\0A\0I\0L\0E\0D\0\r\0\n\0", 24), std::nullopt},
+      {longLine + "RUN COMPLETED\r\n", std::nullopt},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.bytes.substr(0, 40));
+    VerdictScanner whole;
+    whole.feed(row.bytes);
+    EXPECT_EQ(whole.verdict(), row.verdict);
+    // However the file is cut into pieces, the verdict is the same.
+    VerdictScanner bytewise;
+    for (const char c : row.bytes) bytewise.feed({&c, 1});
+    EXPECT_EQ(bytewise.verdict(), row.verdict);
+  }
+}
+
+TEST(ReadVerdict, NeedsAFileThatCanBeReadToItsEnd) {
+  Desktop desktop;
+  desktop.makeFolder("C:\\S\\");
+  const auto read = [] { return readVerdict("C:\\S\\a.lst", [] { return false; }); };
+  EXPECT_EQ(read(), std::nullopt) << "missing";
+  desktop.putFile("C:\\S\\a.lst", std::string(600'000, '\n') + "RUN COMPLETED\n");
+  EXPECT_EQ(read(), kCompleted);
+  desktop.failCall(Desktop::Operation::kRead, desktop.calls(Desktop::Operation::kRead) + 2,
+                   {ErrorKind::kOther, 1117, "I/O error.", ""});
+  EXPECT_EQ(read(), std::nullopt) << "breaks off";
+  desktop.lockFile("C:\\S\\a.lst", 1000);
+  EXPECT_EQ(read(), std::nullopt) << "locked";
+  EXPECT_EQ(readVerdict("C:\\S\\", [] { return false; }), std::nullopt) << "a folder";
+}
+
+}  // namespace
+}  // namespace korventally::testing

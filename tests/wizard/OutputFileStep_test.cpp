@@ -1,0 +1,191 @@
+#include "tests/study.h"
+#include "wizard/list_file_name.h"
+
+namespace korventally::testing {
+namespace {
+
+class OutputFile : public Study {
+ protected:
+  /// Walks to the last step, lets `arrange` change the window and presses "RUN" with the summary
+  /// expected.
+  void capture(const std::function<void(frmKORVENTALLY&)>& arrange) {
+    inWizard([&](frmKORVENTALLY& w) {
+      walkToOutput(w);
+      arrange(w);
+      expectSummary([](frmRunSummary&) {});
+      click(w.cmdRUN);
+      EXPECT_TRUE(w.outputFile.isOpen());
+    });
+  }
+  static constexpr const char* kOverwrite =
+      "The selected output filename already exists. Do you wish to overwrite it?";
+};
+
+TEST_F(OutputFile, CapturesTheWindowAsItStands) {
+  capture([](frmKORVENTALLY&) {});
+  EXPECT_EQ(theCase.WorkDir, kStudy);
+  EXPECT_EQ(theCase.ListFile, "korventally.lst");
+  EXPECT_EQ(theCase.AreaClass, "Class I");
+  EXPECT_EQ(theCase.Standard, "NAAQS");
+  EXPECT_EQ(theCase.Species, "SO2");
+  EXPECT_EQ(theCase.AveragingHours, "3");
+  EXPECT_EQ(theCase.AmbientBackground, "0");
+  EXPECT_EQ(theCase.ReceptorFormat, "2");
+  EXPECT_EQ(theCase.Rank1Flag, "F");
+  EXPECT_EQ(theCase.ReceptorFile, kStudy + "recept.dat");
+  EXPECT_EQ(theCase.StartYear + theCase.StartMonth + theCase.StartDay + theCase.StartHour,
+            "2009010203");
+  EXPECT_EQ(theCase.RunLength, "8760");
+  EXPECT_EQ(theCase.StandardLimit, "1300.0");
+  EXPECT_EQ(theCase.SilLimit, "1.0");
+}
+
+TEST_F(OutputFile, CapturesTheOtherChoiceOfEveryOption) {
+  capture([](frmKORVENTALLY& w) {
+    w.analysisType.optClassII.select();
+    w.analysisType.optPSD.select();
+    w.analysisType.optPM10.select();
+    w.analysisType.opt24hr.select();
+    w.sourceGroups.txtAmbientBckg.setText(" 12.5 ");
+    w.processingInfo.optReceptor_Generic.select();
+    w.processingInfo.optRank1_Exclude.select();
+    w.outputFile.txtLSTFilename.setText("  my list.lst ");
+  });
+  EXPECT_EQ(theCase.AreaClass + theCase.Standard + theCase.Species, "Class IIPSDPM10");
+  EXPECT_EQ(theCase.AveragingHours, "24");
+  EXPECT_EQ(theCase.AmbientBackground, " 12.5 ");
+  EXPECT_EQ(theCase.ReceptorFormat + theCase.Rank1Flag, "1T");
+  EXPECT_EQ(theCase.ListFile, "  my list.lst ");
+  EXPECT_EQ(theCase.StandardLimit, "30.0");
+  EXPECT_EQ(theCase.SilLimit, "5.0");
+}
+
+TEST_F(OutputFile, CountsTheHoursOfTheYear) {
+  for (const auto& [year, hours] :
+       {std::pair{"2008", "8784"}, {"2009", "8760"}, {"1900", "8784"}, {"0000", "8784"}}) {
+    capture([&](frmKORVENTALLY& w) {
+      w.analysisType.optNOX.select();
+      w.analysisType.optAnnual.select();
+      w.processingInfo.txtYear.setText(year);
+    });
+    EXPECT_EQ(theCase.AveragingHours, hours) << year;
+    EXPECT_EQ(theCase.Species, "NOX");
+  }
+}
+
+TEST_F(OutputFile, RefusesAPastedYearThatIsNoNumberOnTheAnnualPathOnly) {
+  inWizard([&](frmKORVENTALLY& w) {
+    walkToOutput(w);
+    w.processingInfo.txtYear.setText("20o8");
+    w.analysisType.optAnnual.select();
+    expectError("The Year must be in the format YYYY.");
+    click(w.cmdRUN);
+    EXPECT_EQ(theCase.WorkDir, "");
+    EXPECT_TRUE(w.outputFile.isOpen());
+    click(w.outputFile.cmdPrevious5);
+    EXPECT_EQ(w.processingInfo.txtYear.backColor(), colors::kYellow);
+    click(w.processingInfo.cmdNext4);
+    w.analysisType.opt24hr.select();
+    expectSummary([](frmRunSummary&) {});
+    click(w.cmdRUN);
+  });
+}
+
+TEST_F(OutputFile, AsksBeforeAnExistingListFileIsOverwritten) {
+  desktop.putFile(kStudy + "korventally.lst", "old");
+  inWizard([&](frmKORVENTALLY& w) {
+    walkToOutput(w);
+    TextBox& box = w.outputFile.txtLSTFilename;
+    desktop.expectMessage(kOverwrite, "Warning", Answer::kNo);
+    click(w.cmdRUN);
+    EXPECT_EQ(box.backColor(), colors::kYellow);
+    EXPECT_EQ(theCase.WorkDir, kStudy) << "taken before any check";
+    EXPECT_EQ(theCase.ListFile, "");
+    desktop.expectMessage(kOverwrite, "Warning", Answer::kYes);
+    expectSummary([](frmRunSummary&) {});
+    click(w.cmdRUN);
+    EXPECT_EQ(box.backColor(), colors::kWhite);
+    EXPECT_EQ(desktop.fileBytes(kStudy + "korventally.lst"), "old");
+  });
+}
+
+TEST_F(OutputFile, DefaultPutsTheNameBackAndLeavesTheMark) {
+  inWizard([&](frmKORVENTALLY& w) {
+    walkToOutput(w);
+    TextBox& box = w.outputFile.txtLSTFilename;
+    paste(box, "");
+    expectError("Please enter a filename for the output KORVENTALLY results list file.");
+    click(w.cmdRUN);
+    click(w.outputFile.cmdDefault_LST);
+    EXPECT_EQ(box.text(), "korventally.lst");
+    EXPECT_EQ(box.backColor(), colors::kYellow);
+    expectSummary([](frmRunSummary&) {});
+    click(w.cmdRUN);
+    EXPECT_EQ(box.backColor(), colors::kWhite);
+  });
+}
+
+TEST_F(OutputFile, ANewRunReplacesEditedLimits) {
+  inWizard([&](frmKORVENTALLY& w) {
+    walkToOutput(w);
+    theCase.StandardLimit = theCase.SilLimit = "edited";
+    expectSummary([](frmRunSummary& s) { EXPECT_EQ(s.txtNAAQSPSDLimit.text(), "1300.0"); });
+    click(w.cmdRUN);
+  });
+}
+
+TEST(ListFileName, IsAPlainFileOfTheWorkingDirectoryThatNobodyElseUses) {
+  const std::vector<std::string> inputs = {"C:\\Study\\G1.con", "D:\\x\\other.con"};
+  for (const char* good : {"korventally.lst", "a b.lst", " lead.lst", "trail.lst ", "console.lst",
+                           "com10.lst", "nul1", "g2.con", "other.con", ".lst", "a%b!&.lst"}) {
+    EXPECT_EQ(objectionToListFile("C:\\Study\\", good, inputs), "") << good;
+  }
+  for (const char* bad : {"NUL",
+                          "nul.lst",
+                          "Aux .txt",
+                          "com1",
+                          "LPT9.lst",
+                          "COM\u00B9.lst",
+                          "con",
+                          "CONIN$",
+                          "a:b",
+                          "..\\a.lst",
+                          "a/b",
+                          "\\\\pc\\pipe\\x",
+                          "C:\\a.lst",
+                          "a*.lst",
+                          "?",
+                          "a\"b",
+                          "a<b",
+                          "a|b",
+                          "a\tb",
+                          "\x7F",
+                          "dot.",
+                          "dot. ",
+                          "   ",
+                          ".",
+                          "..",
+                          "KorvenTally.INP",
+                          "open_file.bat ",
+                          "run_korventally.bat",
+                          "g1.CON",
+                          "g1.con "}) {
+    EXPECT_NE(objectionToListFile("C:\\Study\\", bad, inputs), "") << bad;
+  }
+}
+
+TEST_F(OutputFile, ABadNameIsRefusedBeforeAnythingIsAsked) {
+  inWizard([&](frmKORVENTALLY& w) {
+    walkToOutput(w);
+    w.outputFile.txtLSTFilename.setText("recept.dat");
+    expectError(
+        "This case reads a file of this name, and a run would delete it. Please choose another "
+        "name.");
+    click(w.cmdRUN);
+    EXPECT_EQ(w.outputFile.txtLSTFilename.backColor(), colors::kYellow);
+    EXPECT_EQ(theCase.ListFile, "");
+  });
+}
+
+}  // namespace
+}  // namespace korventally::testing

@@ -1,0 +1,175 @@
+#include <algorithm>
+
+#include "tests/study.h"
+
+namespace korventally::testing {
+namespace {
+
+using Names = std::vector<std::string>;
+
+class Gating : public Study {
+ protected:
+  static std::vector<WizardStep*> steps(frmKORVENTALLY& w) {
+    return {&w.workingDirectory, &w.analysisType, &w.sourceGroups, &w.processingInfo,
+            &w.outputFile};
+  }
+
+  /// Exactly one step is open, counted from 1.
+  static void expectOpen(frmKORVENTALLY& wizard, int expected) {
+    int number = 0;
+    for (WizardStep* step : steps(wizard)) {
+      ++number;
+      EXPECT_EQ(step->isOpen(), number == expected) << "step " << number;
+      for (const Control* control : step->controls()) {
+        EXPECT_EQ(control->enabled(), number == expected) << "step " << number;
+      }
+      for (const TextBox* field : step->fields()) {
+        EXPECT_EQ(field->enabled(), number == expected) << "step " << number;
+      }
+    }
+    EXPECT_EQ(wizard.cmdRUN.usable(), expected == 5);
+    EXPECT_TRUE(wizard.cmdBackToTop.usable());
+    EXPECT_TRUE(wizard.cmdCancel.usable());
+  }
+
+  static void expectPagingClosed(const frmKORVENTALLY& wizard) {
+    for (const Button* button :
+         {&wizard.sourceGroups.cmdPrevGroup, &wizard.sourceGroups.cmdNextGroup,
+          &wizard.sourceGroups.cmdNext3}) {
+      EXPECT_FALSE(button->enabled());
+    }
+  }
+};
+
+TEST_F(Gating, StartsWithStepOneAlone) {
+  inWizard([&](frmKORVENTALLY& w) {
+    EXPECT_EQ(w.focused(), &w.workingDirectory.txtWorkDir);
+    expectOpen(w, 1);
+    expectPagingClosed(w);
+    EXPECT_EQ(w.workingDirectory.txtWorkDir.backColor(), colors::kWhite);
+    for (WizardStep* step : steps(w)) {
+      if (step == &w.workingDirectory) continue;
+      for (const TextBox* field : step->fields()) {
+        EXPECT_EQ(field->backColor(), colors::kButtonFace);
+      }
+    }
+    for (const ControlGroup* group :
+         {&w.analysisType.AreaControls, &w.analysisType.EPAStandardControls,
+          &w.analysisType.SpeciesControls, &w.analysisType.AveragingPeriodControls}) {
+      EXPECT_TRUE(std::none_of(group->begin(), group->end(),
+                               [](const Control* control) { return control->enabled(); }));
+    }
+    click(w.cmdBackToTop);
+    expectOpen(w, 1);
+  });
+}
+
+TEST_F(Gating, WalksForwardAndBack) {
+  inWizard([&](frmKORVENTALLY& w) {
+    walkToOutput(w);
+    expectOpen(w, 5);
+    click(w.outputFile.cmdPrevious5);
+    expectOpen(w, 4);
+    click(w.processingInfo.cmdPrevious4);
+    expectOpen(w, 3);
+    EXPECT_TRUE(w.sourceGroups.cmdPrevGroup.enabled());
+    EXPECT_TRUE(w.sourceGroups.cmdNext3.enabled());
+    EXPECT_FALSE(w.sourceGroups.cmdNextGroup.enabled());
+    click(w.sourceGroups.cmdPrevious3);
+    expectOpen(w, 2);
+    expectPagingClosed(w);
+    EXPECT_TRUE(w.analysisType.optClassI.usable());
+    click(w.analysisType.cmdPrevious2);
+    expectOpen(w, 1);
+    EXPECT_FALSE(w.analysisType.optClassI.enabled());
+  });
+}
+
+TEST_F(Gating, BackToTopLeadsToStepOneFromAnywhereAndKeepsEveryEntry) {
+  for (int step = 2; step <= 5; ++step) {
+    SCOPED_TRACE(step);
+    inWizard([&](frmKORVENTALLY& w) {
+      if (step == 2) walkToAnalysis(w);
+      if (step == 3) walkToGroups(w, "1");
+      if (step == 4) walkToProcessing(w, "1");
+      if (step == 5) walkToOutput(w, "1");
+      expectOpen(w, step);
+      const std::string page = w.sourceGroups.frameSourceGroupInfo.text();
+      click(w.cmdBackToTop);
+      expectOpen(w, 1);
+      expectPagingClosed(w);
+      // Step 2 keeps its sub-frames as they were.
+      EXPECT_EQ(w.analysisType.optClassI.enabled(), step == 2);
+      click(w.workingDirectory.cmdNext1);
+      expectOpen(w, 2);
+      click(w.analysisType.cmdNext2);
+      expectOpen(w, 3);
+      EXPECT_EQ(w.sourceGroups.frameSourceGroupInfo.text(), page);
+      EXPECT_EQ(w.processingInfo.txtMonth.text(), step == 5 ? "01" : "MM");
+    });
+  }
+}
+
+TEST_F(Gating, AHighlightSurvivesItsClosedStep) {
+  inWizard([&](frmKORVENTALLY& w) {
+    walkToProcessing(w);
+    expectError("Please select an input Receptor Data file.");
+    click(w.processingInfo.cmdNext4);
+    TextBox& box = w.processingInfo.txtReceptorDATFile;
+    EXPECT_EQ(box.backColor(), colors::kYellow);
+    click(w.processingInfo.cmdPrevious4);
+    EXPECT_EQ(box.backColor(), colors::kDarkYellow);
+    click(w.sourceGroups.cmdNext3);
+    EXPECT_EQ(box.backColor(), colors::kYellow);
+  });
+}
+
+TEST_F(Gating, TheFocusGoesToTheFirstUsableControlOfTheStepThatOpens) {
+  inWizard([&](frmKORVENTALLY& w) {
+    walkToAnalysis(w);
+    EXPECT_EQ(w.focused(), &w.analysisType.optClassI);
+    click(w.analysisType.cmdNextArrow1);
+    EXPECT_EQ(w.focused(), &w.analysisType.optNAAQS);
+    click(w.analysisType.cmdBackArrow1);
+    EXPECT_EQ(w.focused(), &w.analysisType.optClassI);
+    click(w.analysisType.cmdNext2);
+    EXPECT_EQ(w.focused(), &w.sourceGroups.txtConcFile);
+    click(w.sourceGroups.cmdPrevious3);
+    EXPECT_EQ(w.focused(), &w.analysisType.optClassI);
+    click(w.analysisType.cmdPrevious2);
+    EXPECT_EQ(w.focused(), &w.workingDirectory.txtWorkDir);
+  });
+}
+
+TEST_F(Gating, TabFollowsTheForwardPath) {
+  inWizard([&](frmKORVENTALLY& w) {
+    walkToOutput(w);
+    std::vector<const Control*> visited;
+    for (int i = 0; i < 7; ++i) {
+      visited.push_back(w.focused());
+      press(w, Key::kTab);
+    }
+    EXPECT_EQ(visited,
+              (std::vector<const Control*>{&w.cmdRUN, &w.cmdCancel, &w.outputFile.txtLSTFilename,
+                                           &w.outputFile.cmdDefault_LST, &w.outputFile.cmdPrevious5,
+                                           &w.cmdBackToTop, &w.cmdRUN}));
+  });
+}
+
+TEST_F(Gating, EveryWayOfClosingEndsTheProgram) {
+  const std::function<void(frmKORVENTALLY&)> ways[] = {
+      [](frmKORVENTALLY& w) { click(w.cmdCancel); },
+      [](frmKORVENTALLY& w) { w.mnuExit.onClick(); },
+      [](frmKORVENTALLY& w) { clickCloseBox(w); },
+  };
+  for (const auto& close : ways) {
+    inWizard([&](frmKORVENTALLY& w) {
+      walkToGroups(w);
+      close(w);
+      EXPECT_FALSE(w.isOpen());
+    });
+  }
+}
+
+}  // namespace
+}  // namespace korventally::testing
