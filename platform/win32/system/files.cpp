@@ -97,9 +97,12 @@ Status writeTextFile(const std::string& path, const std::vector<std::string>& li
   Handle file(CreateFileW(nativePath(path).c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
                           CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
   if (!file) return lastError(path);
-  if (Status written = writeAll(file, content, path); !written) return written;
-  if (!FlushFileBuffers(file.get()) || !file.close()) return lastError(path);
-  return {};
+  Status written = writeAll(file, content, path);
+  if (written && !FlushFileBuffers(file.get())) written = lastError(path);
+  if (!file.close() && written) written = lastError(path);
+  // Half a file under the right name is worse than none.
+  if (!written) DeleteFileW(nativePath(path).c_str());
+  return written;
 }
 
 Result<std::unique_ptr<FileReader>> openForReading(const std::string& path) {

@@ -1,0 +1,81 @@
+#include "platform/folder_browser.h"
+
+#include <ole2.h>
+#include <shlobj.h>
+#include <windows.h>
+
+#include "platform/win32/system/text.h"
+#include "platform/win32/ui/native_lookup.h"
+#include "platform/window.h"
+
+namespace korventally {
+namespace {
+
+using win32::toWide;
+
+/// The browser's newer style needs the apartment of its thread. Each showing asks for its own.
+class Apartment {
+ public:
+  Apartment() : entered_(SUCCEEDED(OleInitialize(nullptr))) {}
+  Apartment(const Apartment&) = delete;
+  Apartment& operator=(const Apartment&) = delete;
+  ~Apartment() {
+    if (entered_) OleUninitialize();
+  }
+
+ private:
+  bool entered_;
+};
+
+HWND handleOf(const Window* owner) {
+  return owner == nullptr ? nullptr : win32::nativeHandle(*owner);
+}
+
+ItemIdList ownItem(void* item) {
+  return item == nullptr ? ItemIdList() : ItemIdList(item, &CoTaskMemFree);
+}
+
+int CALLBACK callBack(HWND dialog, UINT message, LPARAM parameter, LPARAM context) {
+  const BrowseInfo& info = *reinterpret_cast<const BrowseInfo*>(context);
+  return info.callback(reinterpret_cast<BrowseDialog*>(dialog), message, parameter, info.data);
+}
+
+}  // namespace
+
+ItemIdList shBrowseForFolder(const BrowseInfo& info) {
+  const Apartment apartment;
+  const std::wstring title = toWide(info.title);
+  wchar_t displayName[kMaxPath] = L"";
+  BROWSEINFOW browse{};
+  browse.hwndOwner = handleOf(info.owner);
+  browse.pidlRoot = static_cast<LPCITEMIDLIST>(info.root.get());
+  browse.pszDisplayName = displayName;
+  browse.lpszTitle = title.c_str();
+  browse.ulFlags = info.flags;
+  browse.lpfn = info.callback == nullptr ? nullptr : &callBack;
+  browse.lParam = reinterpret_cast<LPARAM>(&info);
+  return ownItem(SHBrowseForFolderW(&browse));
+}
+
+std::string shGetPathFromIdList(const ItemIdList& item) {
+  wchar_t path[kMaxPath] = L"";
+  if (!item || !SHGetPathFromIDListW(static_cast<LPCITEMIDLIST>(item.get()), path)) return {};
+  return win32::fromWide(path);
+}
+
+ItemIdList shGetSpecialFolderLocation(Window& owner, int folder) {
+  LPITEMIDLIST item = nullptr;
+  if (FAILED(SHGetSpecialFolderLocation(handleOf(&owner), folder, &item))) return {};
+  return ownItem(item);
+}
+
+void sendMessage(BrowseDialog* dialog, unsigned message, bool parameter, const char* path) {
+  // The portable side names the message by its ANSI number; the text goes out wide.
+  static_assert(kBffmSetSelection == BFFM_SETSELECTIONA);
+  const UINT number = message == kBffmSetSelection ? BFFM_SETSELECTIONW : message;
+  const std::wstring text = path == nullptr ? std::wstring() : toWide(path);
+  SendMessageW(reinterpret_cast<HWND>(dialog), number, parameter ? TRUE : FALSE,
+               reinterpret_cast<LPARAM>(text.c_str()));
+}
+
+}  // namespace korventally
