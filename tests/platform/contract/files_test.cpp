@@ -101,7 +101,7 @@ TEST_F(Files, FoldersListThemselvesUnlessTheyAreMissing) {
   EXPECT_TRUE(folderListsEntries(folder));
   EXPECT_TRUE(folderListsEntries(folder + "empty\\"));
   EXPECT_TRUE(folderListsEntries("\\")) << "the root of the current drive";
-  for (const char* name : {"missing\\", "file\\", "empty  \\", "em*\\", "missing\\empty\\"}) {
+  for (const char* name : {"missing\\", "file\\", "empty  \\", "em*\\", "empty", "missing\\empty\\"}) {
     EXPECT_FALSE(folderListsEntries(folder + name)) << name;
   }
 }

@@ -1,0 +1,141 @@
+#include "tests/person.h"
+
+#include <windows.h>
+
+#include <algorithm>
+
+#include "platform/events.h"
+#include "platform/win32/system/text.h"
+#include "platform/win32/ui/native_lookup.h"
+
+namespace korventally::testing {
+namespace {
+
+using win32::nativeHandle;
+
+/// The system hands mouse and keyboard only to a window that is shown and enabled with all those
+/// around it. A message that is sent there by a program passes all the same, so a person has to
+/// look first.
+bool inReach(HWND window) {
+  for (HWND at = window; at != nullptr; at = GetAncestor(at, GA_PARENT)) {
+    if (at == GetDesktopWindow()) return true;
+    if (!IsWindowEnabled(at) || !(GetWindowLongW(at, GWL_STYLE) & WS_VISIBLE)) return false;
+  }
+  return false;
+}
+
+/// Lets the windows handle what was posted, and what follows from it.
+void settle() {
+  processPendingEvents();
+  processPendingEvents();
+}
+
+void post(HWND window, UINT message, WPARAM first, LPARAM second) {
+  PostMessageW(window, message, first, second);
+  settle();
+}
+
+/// Whether the person has got the focus there.
+bool focusOn(HWND control) {
+  if (!inReach(control)) return false;
+  if (GetFocus() != control) SetFocus(control);
+  settle();
+  return inReach(control) && GetFocus() == control;
+}
+
+void pressKey(HWND control, WPARAM key) {
+  post(control, WM_KEYDOWN, key, 1);
+  if (IsWindow(control)) post(control, WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
+}
+
+void setShift(bool down) {
+  BYTE keys[256];
+  GetKeyboardState(keys);
+  keys[VK_SHIFT] = down ? 0x80 : 0;
+  SetKeyboardState(keys);
+}
+
+WPARAM codeOf(Key key) {
+  switch (key) {
+    case Key::kTab:
+    case Key::kShiftTab:
+      return VK_TAB;
+    case Key::kEnter:
+      return VK_RETURN;
+    case Key::kBackspace:
+      return VK_BACK;
+    case Key::kEscape:
+      return VK_ESCAPE;
+    case Key::kSpace:
+      return VK_SPACE;
+    case Key::kUp:
+      return VK_UP;
+    case Key::kDown:
+      return VK_DOWN;
+    case Key::kLeft:
+      return VK_LEFT;
+    case Key::kRight:
+      return VK_RIGHT;
+  }
+  return 0;
+}
+
+/// Puts text on the clipboard, as copying it in another program does.
+void copy(const std::wstring& text) {
+  const std::size_t bytes = (text.size() + 1) * sizeof(wchar_t);
+  HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, bytes);
+  std::copy_n(text.c_str(), text.size() + 1, static_cast<wchar_t*>(GlobalLock(memory)));
+  GlobalUnlock(memory);
+  OpenClipboard(nullptr);
+  EmptyClipboard();
+  SetClipboardData(CF_UNICODETEXT, memory);
+  CloseClipboard();
+}
+
+}  // namespace
+
+void click(Control& control) {
+  HWND window = nativeHandle(control);
+  if (!inReach(window)) return;
+  RECT area;
+  GetClientRect(window, &area);
+  const LPARAM centre = MAKELPARAM(area.right / 2, area.bottom / 2);
+  post(window, WM_LBUTTONDOWN, MK_LBUTTON, centre);
+  // A window that has gone out of reach gets no more of the mouse.
+  if (inReach(window)) return post(window, WM_LBUTTONUP, 0, centre);
+  if (GetCapture() == window) ReleaseCapture();
+}
+
+void type(TextBox& box, const std::string& text) {
+  HWND edit = nativeHandle(box);
+  if (!focusOn(edit)) return;
+  const auto end = static_cast<WPARAM>(GetWindowTextLengthW(edit));
+  SendMessageW(edit, EM_SETSEL, end, static_cast<LPARAM>(end));
+  for (const wchar_t unit : win32::toWide(text)) {
+    if (inReach(edit)) post(edit, WM_CHAR, unit, 1);
+  }
+}
+
+void paste(TextBox& box, const std::string& text) {
+  HWND edit = nativeHandle(box);
+  if (!focusOn(edit)) return;
+  SendMessageW(edit, EM_SETSEL, 0, -1);
+  if (text.empty()) return post(edit, WM_CLEAR, 0, 0);
+  copy(win32::toWide(text));
+  post(edit, WM_PASTE, 0, 0);
+}
+
+void press(Window& window, Key key) {
+  HWND focused = GetFocus();
+  if (!inReach(nativeHandle(window)) || !IsChild(nativeHandle(window), focused)) return;
+  setShift(key == Key::kShiftTab);
+  pressKey(focused, codeOf(key));
+  setShift(false);
+}
+
+void clickCloseBox(Window& window) {
+  HWND handle = nativeHandle(window);
+  if (inReach(handle)) post(handle, WM_SYSCOMMAND, SC_CLOSE, 0);
+}
+
+}  // namespace korventally::testing
