@@ -34,7 +34,8 @@ Status retryWhileBusy(const std::function<Status()>& operation,
 
 Status removeOwnFile(const std::string& path, const std::function<bool()>& interrupted) {
   Status status = retryWhileBusy([&] { return deleteFile(path); }, interrupted);
-  if (!status && status.error().kind == ErrorKind::kNotFound) return {};
+  const bool gone = !status && status.error().kind == ErrorKind::kNotFound && !fileExists(path);
+  if (gone) return {};
   return status;
 }
 

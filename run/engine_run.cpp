@@ -23,6 +23,13 @@ constexpr const char* kFolderAdvice =
 constexpr const char* kLeftoverAdvice =
     "Please delete the file when no other program uses it any more.";
 
+Status nothingAt(const std::string& path) {
+  const auto left = openForReading(path);
+  if (left) return Error{ErrorKind::kOther, 0, "A file of this name is still there.", path};
+  if (left.error().kind == ErrorKind::kNotFound) return {};
+  return left.error();
+}
+
 }  // namespace
 
 EngineRun::EngineRun(Window& window, Label& lblRunning)
@@ -73,31 +80,27 @@ bool EngineRun::removeOldBatchFile() {
                          kFolderAdvice);
 }
 
-/// A verdict may only ever be read from a file that this run's engine wrote, so nothing at all may
-/// be left under the list file's name: no folder and no hidden file either.
+/// A verdict may only ever be read from a file that this run's engine wrote. So nothing at all may
+/// be left under the list file's name, whatever the deletion reported: no folder, no hidden file.
 bool EngineRun::removeOldListFile() {
-  constexpr const char* kWhat = "The list file of an earlier run could not be deleted:";
-  if (fileExists(listFile_)) {
-    const Status removed = removeOwnFile(listFile_, [this] { return abandoned_; });
-    return removed || fail(kWhat, removed.error(), kFolderAdvice);
-  }
-  const auto left = openForReading(listFile_);
-  if (!left && left.error().kind == ErrorKind::kNotFound) return true;
-  const Error error =
-      left ? Error{ErrorKind::kOther, 0, "The file is hidden.", listFile_} : left.error();
-  return fail(kWhat, error, "Please choose another name for the list file.");
+  const auto interrupted = [this] { return abandoned_; };
+  Status removed;
+  if (fileExists(listFile_)) removed = removeOwnFile(listFile_, interrupted);
+  if (removed) removed = retryWhileBusy([this] { return nothingAt(listFile_); }, interrupted);
+  return removed || fail("The list file of an earlier run could not be deleted:", removed.error(),
+                         kFolderAdvice);
 }
 
 bool EngineRun::writeOwnFiles() {
   const auto interrupted = [this] { return abandoned_; };
-  ownsControlFile_ = true;
   const Status control = retryWhileBusy([] { return WriteControlFile(); }, interrupted);
+  ownsControlFile_ = control.ok();
   if (!control)
     return fail("The control file could not be written:", control.error(), kFolderAdvice);
   if (!wait(kBeforeBatchFile)) return false;
-  ownsBatchFile_ = true;
   const Status batch = retryWhileBusy(
       [this] { return writeTextFile(batchFilePath(case_), batchFileLines(case_)); }, interrupted);
+  ownsBatchFile_ = batch.ok();
   if (!batch) return fail("The batch file could not be written:", batch.error(), kFolderAdvice);
   return !abandoned_;
 }

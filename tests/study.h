@@ -15,8 +15,8 @@ namespace korventally::testing {
 
 /// A desktop with the program installed in D:\Prog, a study in C:\Study, and an engine that
 /// completes after two seconds.
-class Study : public ::testing::Test {
- protected:
+class Study {
+ public:
   Study();
 
   /// Opens the wizard, lets the visit happen and closes the wizard.
@@ -41,6 +41,9 @@ class Study : public ::testing::Test {
   Desktop desktop;
   AnalysisCase& theCase = basModule::analysisCase;
 };
+
+/// The study as the fixture of a test.
+class StudyTest : public ::testing::Test, protected Study {};
 
 inline const std::string kStudy = "C:\\Study\\";
 

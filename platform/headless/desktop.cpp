@@ -121,6 +121,8 @@ void Desktop::advance(std::uint32_t milliseconds) {
   while (world_->clock.time() < end) processPendingEvents();
 }
 
+void Desktop::answerMessages(Answerer answerer) { world_->answerer = std::move(answerer); }
+
 void Desktop::expectMessage(std::string text, std::string title, Answer answer,
                             std::function<void()> meanwhile) {
   world_->messages.push_back({std::move(text), std::move(title), answer, std::move(meanwhile)});

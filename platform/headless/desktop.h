@@ -66,6 +66,9 @@ class Desktop {
   // shown, `meanwhile` runs first, if given.
   void expectMessage(std::string text, std::string title, Answer answer = Answer::kOk,
                      std::function<void()> meanwhile = {});
+  /// Answers every message that was not expected by name.
+  using Answerer = std::function<Answer(const std::string& text, Buttons buttons)>;
+  void answerMessages(Answerer answerer);
   /// The person picks `path` in the open-file dialog, or cancels it with the empty text. `look`
   /// sees the dialog as it was set up.
   void expectOpenFile(std::string path, std::function<void(const CommonDialog&)> look = {});

@@ -90,7 +90,7 @@ bool fileExists(const std::string& path) {
 
 bool folderListsEntries(const std::string& path) {
   const auto full = resolve(path);
-  if (!full) return false;
+  if (!full || !full.value().namesFolder) return false;
   const Node* node = world().files.find(full.value().text);
   if (node == nullptr || !node->isFolder) return false;
   const bool isRoot = parentOf(node->path) == node->path;
@@ -119,14 +119,15 @@ Status writeTextFile(const std::string& path, const std::vector<std::string>& li
     error.path = full.value().text;
     return error;
   }
-  std::string& content = bytes.value();
   const auto fault = world().faults.call(Operation::kWrite, full.value().text);
   if (fault && fault->code != kDiskFull) return *fault;
   if (auto error = obstacle(full.value())) return *error;
-  // A disk that fills up has taken the file and a part of its bytes.
-  if (fault) content.resize(content.size() / 2);
-  world().files.put(full.value().text, std::move(content));
-  if (fault) return *fault;
+  // A disk that fills up has taken the old file all the same.
+  if (fault) {
+    world().files.remove(full.value().text);
+    return *fault;
+  }
+  world().files.put(full.value().text, std::move(bytes.value()));
   return {};
 }
 

@@ -50,6 +50,7 @@ struct Desktop::World {
   std::string installation;
 
   std::deque<headless::ExpectedMessage> messages;
+  Desktop::Answerer answerer;
   std::deque<headless::ExpectedFile> openFiles;
   std::deque<headless::ExpectedFolder> browsers;
   std::deque<std::function<void(Window&)>> visits;

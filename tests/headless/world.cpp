@@ -35,6 +35,8 @@ void World::makeReadOnly(const std::string& path) {
   setAttribute(path, Desktop::Attribute::kReadOnly);
 }
 
+bool World::guardsReadOnlyFiles() { return true; }
+
 std::shared_ptr<void> World::hold(const std::string& path) {
   desktop().lockFile(path, std::numeric_limits<std::uint32_t>::max());
   return std::shared_ptr<void>(nullptr, [path](void*) { desktop().lockFile(path, 0); });

@@ -11,7 +11,7 @@ constexpr const char* kStop = "The engine is still running. Stop it and close th
 constexpr const char* kDone = "RUN COMPLETED";
 constexpr const char* kFailed = "RUN FAILED - SEE LIST FILE";
 
-class RunSummary : public Study {
+class RunSummary : public StudyTest {
  protected:
   const std::string list = kStudy + "korventally.lst";
 

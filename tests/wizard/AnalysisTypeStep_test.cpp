@@ -3,7 +3,7 @@
 namespace korventally::testing {
 namespace {
 
-class AnalysisType : public Study {
+class AnalysisType : public StudyTest {
  protected:
   /// The sub-frames that are unlocked and the right arrows that are green, from left to right.
   static std::string state(const frmKORVENTALLY& w) {

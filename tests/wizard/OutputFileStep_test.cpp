@@ -4,7 +4,7 @@
 namespace korventally::testing {
 namespace {
 
-class OutputFile : public Study {
+class OutputFile : public StudyTest {
  protected:
   /// Walks to the last step, lets `arrange` change the window and presses "RUN" with the summary
   /// expected.

@@ -3,7 +3,7 @@
 namespace korventally::testing {
 namespace {
 
-using ProcessingInfo = Study;
+using ProcessingInfo = StudyTest;
 
 TEST_F(ProcessingInfo, ChecksItsBoxesInOrderOneAtATime) {
   inWizard([&](frmKORVENTALLY& w) {

@@ -3,7 +3,7 @@
 namespace korventally::testing {
 namespace {
 
-class SourceGroups : public Study {
+class SourceGroups : public StudyTest {
  protected:
   static std::string caption(const frmKORVENTALLY& w) {
     const std::string& text = w.sourceGroups.frameSourceGroupInfo.text();

@@ -4,7 +4,7 @@
 namespace korventally::testing {
 namespace {
 
-using WorkingDirectory = Study;
+using WorkingDirectory = StudyTest;
 
 TEST_F(WorkingDirectory, IsCheckedBeforeTheNextStepOpens) {
   desktop.putFile("C:\\file", "");

@@ -7,7 +7,7 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-class Gating : public Study {
+class Gating : public StudyTest {
  protected:
   static std::vector<WizardStep*> steps(frmKORVENTALLY& w) {
     return {&w.workingDirectory, &w.analysisType, &w.sourceGroups, &w.processingInfo,

@@ -1,0 +1,140 @@
+#include <algorithm>
+#include <map>
+#include <random>
+
+#include "platform/later.h"
+#include "tests/study.h"
+
+namespace korventally::testing {
+namespace {
+
+using Operation = Desktop::Operation;
+
+constexpr Operation kOperations[] = {Operation::kDelete, Operation::kWrite, Operation::kOpen,
+                                     Operation::kRead, Operation::kStart};
+
+const Error kErrors[] = {
+    {ErrorKind::kBusy, 32, "The file is used by another process.", ""},
+    {ErrorKind::kOther, 5, "Access is denied.", ""},
+    {ErrorKind::kOther, 112, "There is not enough space on the disk.", ""},
+    {ErrorKind::kNotFound, 2, "The system cannot find the file specified.", ""},
+};
+
+struct Fault {
+  Operation operation;
+  int nth;
+  Error error;
+  bool fromThenOn;
+};
+
+/// Runs a case whose platform fails at the given places, and checks what must hold all the same.
+class FaultyRun : public Study {
+ public:
+  /// One run, and what was said meanwhile.
+  struct Outcome {
+    std::vector<std::string> messages;
+    std::string status;
+    bool usable = false;
+  };
+
+  Outcome runWith(const std::vector<Fault>& faults) {
+    for (const Fault& fault : faults) {
+      desktop.failCall(fault.operation, fault.nth, fault.error, fault.fromThenOn);
+    }
+    Outcome outcome;
+    desktop.answerMessages([&](const std::string& text, Buttons buttons) {
+      outcome.messages.push_back(text);
+      return buttons == Buttons::kOk ? Answer::kOk : Answer::kNo;
+    });
+    inSummary([&](frmRunSummary& s) {
+      click(s.cmdRUN);
+      outcome.status = s.lblStatus.text();
+      outcome.usable = s.cmdRUN.usable() && s.cmdBack.usable() && s.lblRunning.text().empty();
+    });
+    finishLater();
+    return outcome;
+  }
+
+  /// Every file of the run is gone, or somebody was told that it stays.
+  void expectTidy(const Outcome& outcome) const {
+    for (const std::string name : {"korventally.inp", "run_korventally.bat", "open_file.bat"}) {
+      const auto bytes = desktop.fileBytes(kStudy + name);
+      if (!bytes || bytes == "old") continue;
+      const bool told = std::any_of(
+          outcome.messages.begin(), outcome.messages.end(),
+          [&](const std::string& text) { return text.find(kStudy + name) != std::string::npos; });
+      EXPECT_TRUE(told) << name << " was left without a word";
+    }
+  }
+
+  void expectInvariants(const Outcome& outcome) {
+    EXPECT_TRUE(outcome.usable);
+    expectTidy(outcome);
+    EXPECT_EQ(desktop.fileBytes(kStudy + "g1.con"), "values\r\n");
+    EXPECT_EQ(desktop.fileBytes(kStudy + "recept.dat"), "0 0 R1\r\n");
+    EXPECT_FALSE(desktop.enginesRunning());
+    if (outcome.status == "RUN COMPLETED") {
+      EXPECT_EQ(desktop.enginesStarted(), 1) << "a verdict without an engine";
+      EXPECT_TRUE(desktop.fileBytes(kStudy + "korventally.lst")->find("KORVENTALLY listing") == 0);
+    } else {
+      EXPECT_FALSE(outcome.messages.empty()) << "nothing ran, and nobody was told";
+    }
+  }
+
+  void leaveAnOldRun() {
+    desktop.putFile(kStudy + "korventally.lst", "RUN COMPLETED\r\n");
+    desktop.putFile(kStudy + "run_korventally.bat", "old");
+    desktop.putFile(kStudy + "korventally.inp", "old");
+  }
+};
+
+std::map<Operation, int> callsWithoutFaults() {
+  FaultyRun run;
+  run.leaveAnOldRun();
+  run.expectInvariants(run.runWith({}));
+  std::map<Operation, int> calls;
+  for (const Operation operation : kOperations) calls[operation] = run.desktop.calls(operation);
+  return calls;
+}
+
+void checkRunWith(const std::vector<Fault>& faults) {
+  ::testing::Message trace;
+  for (const Fault& fault : faults) {
+    trace << "operation " << static_cast<int>(fault.operation) << ", call " << fault.nth
+          << ", error " << fault.error.code << (fault.fromThenOn ? " from then on; " : " once; ");
+  }
+  SCOPED_TRACE(trace);
+  FaultyRun run;
+  run.leaveAnOldRun();
+  run.expectInvariants(run.runWith(faults));
+}
+
+TEST(Faults, EverySingleOneLeavesAUsableWindowAndATidyFolder) {
+  const std::map<Operation, int> calls = callsWithoutFaults();
+  ASSERT_EQ(calls.at(Operation::kWrite), 3) << "control file, batch file, editor batch file";
+  for (const auto& [operation, count] : calls) {
+    for (int nth = 1; nth <= count; ++nth) {
+      for (const Error& error : kErrors) {
+        checkRunWith({{operation, nth, error, false}});
+        checkRunWith({{operation, nth, error, true}});
+      }
+    }
+  }
+}
+
+TEST(Faults, PairsOfThemDoSoToo) {
+  const unsigned seed = std::random_device()();
+  SCOPED_TRACE(::testing::Message() << "seed " << seed);
+  std::mt19937 random(seed);
+  const std::map<Operation, int> calls = callsWithoutFaults();
+  const auto anyOf = [&](int count) { return static_cast<int>(random() % count); };
+  const auto anyFault = [&] {
+    const Operation operation = kOperations[anyOf(std::size(kOperations))];
+    return Fault{operation, 1 + anyOf(calls.at(operation) + 2), kErrors[anyOf(std::size(kErrors))],
+                 anyOf(2) == 0};
+  };
+  for (int pair = 0; pair < 300; ++pair) checkRunWith({anyFault(), anyFault()});
+}
+
+}  // namespace
+}  // namespace korventally::testing
