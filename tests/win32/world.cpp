@@ -64,6 +64,16 @@ void World::append(const std::string& path, const std::string& bytes) {
 void World::hide(const std::string& path) { setAttribute(path, FILE_ATTRIBUTE_HIDDEN); }
 void World::makeReadOnly(const std::string& path) { setAttribute(path, FILE_ATTRIBUTE_READONLY); }
 
+bool World::guardsReadOnlyFiles() {
+  const std::string path = freshFolder() + "guarded";
+  append(path, "x");
+  makeReadOnly(path);
+  const HANDLE file = CreateFileW(toWide(path).c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
+                                  OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (file != INVALID_HANDLE_VALUE) CloseHandle(file);
+  return file == INVALID_HANDLE_VALUE;
+}
+
 std::shared_ptr<void> World::hold(const std::string& path) {
   constexpr DWORD kShareNothing = 0;
   const HANDLE file = CreateFileW(toWide(path).c_str(), GENERIC_READ, kShareNothing, nullptr,

@@ -101,7 +101,8 @@ TEST_F(Files, FoldersListThemselvesUnlessTheyAreMissing) {
   EXPECT_TRUE(folderListsEntries(folder));
   EXPECT_TRUE(folderListsEntries(folder + "empty\\"));
   EXPECT_TRUE(folderListsEntries("\\")) << "the root of the current drive";
-  for (const char* name : {"missing\\", "file\\", "empty  \\", "em*\\", "empty", "missing\\empty\\"}) {
+  for (const char* name :
+       {"missing\\", "file\\", "empty  \\", "em*\\", "empty", "missing\\empty\\"}) {
     EXPECT_FALSE(folderListsEntries(folder + name)) << name;
   }
 }
@@ -140,15 +141,12 @@ TEST_F(Files, AreDeletedOrSayWhyNot) {
 
 TEST_F(Files, CannotBeWrittenEverywhere) {
   world.makeFolder(folder + "sub");
-  world.append(folder + "read-only", "kept");
-  world.makeReadOnly(folder + "read-only");
   world.append(folder + "held", "kept");
   const struct {
     const char* name;
     ErrorKind kind;
   } table[] = {{"none\\file", ErrorKind::kNotFound},
                {"sub", ErrorKind::kOther},
-               {"read-only", ErrorKind::kOther},
                {"wild*card", ErrorKind::kOther},
                {"held", ErrorKind::kBusy}};
   const auto held = world.hold(folder + "held");
@@ -158,10 +156,20 @@ TEST_F(Files, CannotBeWrittenEverywhere) {
     EXPECT_EQ(written.error().kind, row.kind) << row.name << ": " << written.error().text;
     EXPECT_EQ(written.error().path, folder + row.name);
   }
-  EXPECT_EQ(bytesOf(folder + "read-only"), "kept");
   const auto opened = openForReading(folder + "held");
   ASSERT_FALSE(opened);
   EXPECT_EQ(opened.error().kind, ErrorKind::kBusy);
+}
+
+TEST_F(Files, ThatAreReadOnlyAreNotReplaced) {
+  if (!world.guardsReadOnlyFiles()) GTEST_SKIP() << "this system lets anybody write to them";
+  world.append(folder + "read-only", "kept");
+  world.makeReadOnly(folder + "read-only");
+  const Status written = writeTextFile(folder + "read-only", {"new"});
+  ASSERT_FALSE(written);
+  EXPECT_EQ(written.error().kind, ErrorKind::kOther);
+  EXPECT_EQ(written.error().code, 5);
+  EXPECT_EQ(bytesOf(folder + "read-only"), "kept");
 }
 
 TEST_F(Files, CannotBeReadIfThereAreNone) {

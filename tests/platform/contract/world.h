@@ -22,6 +22,9 @@ class World {
   void append(const std::string& path, const std::string& bytes);
   void hide(const std::string& path);
   void makeReadOnly(const std::string& path);
+  /// Whether the system keeps this program from writing to a read-only file. Wine does not, when it
+  /// runs as root.
+  bool guardsReadOnlyFiles();
   /// Holds the file open and shares it with nobody for as long as the result lives.
   std::shared_ptr<void> hold(const std::string& path);
 
