@@ -56,6 +56,20 @@ TEST_F(Controls, KeepAStateOfTheirOwnWhileTheContainerIsClosed) {
   });
 }
 
+TEST_F(Controls, IgnoreAPressThatComesTooLate) {
+  visit([&] {
+    for (Control* closed : {static_cast<Control*>(&form.outer), static_cast<Control*>(&form.sizes),
+                            static_cast<Control*>(&form.tick)}) {
+      closed->setEnabled(false);
+    }
+    form.button.press();
+    form.large.press();
+    form.tick.press();
+    EXPECT_EQ(form.takeLog(), Log{});
+    EXPECT_FALSE(form.large.selected() || form.tick.checked());
+  });
+}
+
 TEST_F(Controls, TellOfLostFocusThenGotFocusThenClick) {
   visit([&] {
     type(form.box, "C:");

@@ -63,6 +63,7 @@ class Form : public Window {
 
   bool escapeCloses = false;
   bool refusesToClose = false;
+  std::function<void()> whenClosed;
   std::vector<std::string> log;
 
  protected:
@@ -71,7 +72,10 @@ class Form : public Window {
     log.push_back("query");
     return !refusesToClose;
   }
-  void Form_Unload() override { log.push_back("unload"); }
+  void Form_Unload() override {
+    log.push_back("unload");
+    if (whenClosed) whenClosed();
+  }
 
  private:
   void follow(Control& control, const std::string& name) {
