@@ -1,0 +1,170 @@
+# What the scripts share; sourced by them, never run. Everything they make is below build/ and dist/.
+# shellcheck shell=bash
+set -euo pipefail
+
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+build=$root/build
+installation=$root/dist/KorvenTally
+logs=$build/logs
+mkdir -p "$logs"
+cd "$root"
+
+build_packages=(cmake ninja-build g++ g++-mingw-w64-x86-64-posix googletest)
+# Wine draws buttons and arrows with fonts that its own package only recommends.
+desktop_packages=(wine wine64 fonts-wine fonts-liberation xvfb imagemagick)
+
+fail() {
+  printf '%s\n' "$*" >&2
+  exit 1
+}
+
+# Runs a command as one stage: a line that says what happens and how long it took, and when it
+# fails the end of its log, where the log is, and the end of the script.
+stage() { # what happens, log name, command...
+  local what=$1 log=$logs/$2.log began=$SECONDS
+  shift 2
+  printf '%-62s ' "$what ..."
+  if "$@" >"$log" 2>&1; then
+    printf '%4d s\n' $((SECONDS - began))
+  else
+    printf 'FAILED\n'
+    tail -n 25 "$log" >&2
+    fail "The whole log: ${log#"$root"/}"
+  fi
+}
+
+as_root() {
+  if [ "$(id -u)" = 0 ]; then "$@"; else sudo "$@"; fi
+}
+
+install_packages() {
+  as_root apt-get update
+  as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "$@"
+}
+
+# Installs what the machine lacks, and asks for nothing when it lacks nothing.
+need_packages() {
+  local package missing=()
+  for package in "$@"; do
+    [ "$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null)" = installed ] ||
+      missing+=("$package")
+  done
+  [ ${#missing[@]} = 0 ] || stage "Installing ${missing[*]}" install install_packages "${missing[@]}"
+}
+
+# Configures a build folder once; afterwards ninja itself sees when that has to be done again.
+configure() { # folder, cmake options...
+  local folder=$1
+  shift
+  [ -f "$folder/build.ninja" ] || cmake -S "$root" -B "$folder" -G Ninja "$@"
+}
+
+cross_build() { # targets...
+  configure "$build/windows" -DCMAKE_TOOLCHAIN_FILE="$root/cmake/mingw-w64-x86_64.cmake" \
+    -DCMAKE_BUILD_TYPE=Release
+  ninja -C "$build/windows" "$@"
+}
+
+# A program without its symbols, written again only when it has changed.
+install_program() { # built program
+  local target=$installation/${1##*/}
+  [ "$target" -nt "$1" ] || x86_64-w64-mingw32-strip -o "$target" "$1"
+}
+
+install_programs() {
+  mkdir -p "$installation"
+  install_program "$build/windows/KorvenTallyWizard.exe"
+  install_program "$build/windows/engine/korventally.exe"
+}
+
+# The program as a user gets it, in dist/KorvenTally/.
+build_program() {
+  stage "Cross-building the wizard and the engine for Windows" build-windows \
+    cross_build KorvenTallyWizard korventally
+  stage "Putting them into dist/KorvenTally/" install-programs install_programs
+}
+
+# A folder as a program under Wine names it.
+windows_path() {
+  local path=Z:$1
+  printf '%s' "${path//\//\\}"
+}
+
+# However a script ends: nothing that it started stays behind.
+own_prefix=
+display_pid=
+leave() {
+  if [ -n "$own_prefix" ]; then wineserver -k 2>/dev/null || true; fi
+  if [ -n "$display_pid" ]; then kill "$display_pid" 2>/dev/null || true; fi
+  last_words
+}
+last_words() { :; } # for a script that has something to say at its very end
+trap leave EXIT
+trap 'exit 130' INT TERM
+
+# A display of the script's own, so that it works without one and takes nobody's mouse away.
+start_display() { # width x height
+  local file=$build/display.$$ tries=0
+  Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp 3>"$file" >"$logs/display.log" 2>&1 &
+  display_pid=$!
+  until [ -s "$file" ]; do
+    tries=$((tries + 1))
+    [ $tries -lt 100 ] || fail "The virtual display did not start: see ${logs#"$root"/}/display.log"
+    sleep 0.1
+  done
+  DISPLAY=:$(cat "$file")
+  export DISPLAY
+  unset WAYLAND_DISPLAY
+  rm -f "$file"
+}
+
+# Programs that drive windows get a desktop of Wine's own, which draws title bars without a window
+# manager. Everything else opens its windows on the display itself.
+wine_settings() { # width x height, dots per inch
+  local dpi
+  dpi=$(printf '%08x' "$2")
+  cat <<REGISTRY
+REGEDIT4
+
+[HKEY_CURRENT_USER\\Software\\Wine\\AppDefaults\\e2e_tests.exe\\Explorer]
+"Desktop"="driven"
+
+[HKEY_CURRENT_USER\\Software\\Wine\\AppDefaults\\demo_driver.exe\\Explorer]
+"Desktop"="driven"
+
+[HKEY_CURRENT_USER\\Software\\Wine\\Explorer\\Desktops]
+"driven"="$1"
+
+[HKEY_CURRENT_USER\\Software\\Wine\\Fonts]
+"LogPixels"=dword:$dpi
+
+[HKEY_CURRENT_USER\\Control Panel\\Desktop]
+"LogPixels"=dword:$dpi
+
+[HKEY_CURRENT_USER\\Software\\Wine\\Fonts\\Replacements]
+"Arial"="Liberation Sans"
+REGISTRY
+}
+
+make_prefix() { # width x height, dots per inch
+  local settings=$WINEPREFIX/settings.reg
+  [ -d "$WINEPREFIX/drive_c/windows" ] || timeout 240 wineboot --init
+  [ "$(cat "$settings" 2>/dev/null)" != "$(wine_settings "$@")" ] || return 0
+  wine_settings "$@" >"$settings.new"
+  timeout 60 wine regedit /S "$(windows_path "$settings.new")"
+  # The registry counts as written, and a desktop as resized, once the server has ended.
+  timeout 60 wineserver -k || true
+  timeout 60 wineserver -w
+  mv "$settings.new" "$settings"
+}
+
+# A Wine prefix below build/, one for each script, so that they may run at the same time and the
+# person's own is never touched.
+use_prefix() { # name, width x height, dots per inch
+  export WINEPREFIX=$build/wine/$1 WINEARCH=win64 WINEDEBUG=-all
+  # No Mono, no browser, no debugger that keeps a crashed program waiting, no menu entries.
+  export WINEDLLOVERRIDES="mscoree,mshtml=;winedbg.exe,winemenubuilder.exe=d"
+  mkdir -p "$WINEPREFIX"
+  own_prefix=$WINEPREFIX
+  stage "Preparing Wine in ${WINEPREFIX#"$root"/}" "wine-$1" make_prefix "${@:2}"
+}
