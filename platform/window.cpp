@@ -55,8 +55,9 @@ void Window::unloadAll() {
 
 void Window::setFocus(Control& control) {
   if (!control.usable()) return;
-  focusMovedTo(control);
+  // The view first: it knows what to do before the control learns of its focus.
   if (open_ && view_) view_->setFocus(control);
+  focusMovedTo(control);
 }
 
 void Window::moveFocus(bool forward) {
