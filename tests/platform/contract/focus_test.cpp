@@ -46,6 +46,8 @@ TEST_F(Focus, GoesRoundTheTabOrder) {
     form.shortBox.setEnabled(false);
     EXPECT_EQ(walk(Key::kTab), "Large Red Tick box ");
     EXPECT_EQ(walk(Key::kShiftTab), "Tick Red Large box ");
+    form.large.setEnabled(false);
+    EXPECT_EQ(walk(Key::kTab), "Small Red Tick box ") << "a usable one stands for the group";
   });
 }
 

@@ -20,7 +20,7 @@ namespace korventally::testing {
 class Form : public Window {
  public:
   explicit Form(std::string caption = "Form") : Window(std::move(caption), {9000, 6000}) {
-    setTabOrder({&box, &shortBox, &button, &small, &large, &red, &tick, &last});
+    setTabOrder({&box, &shortBox, &button, &small, &medium, &large, &red, &blue, &tick, &last});
     follow(box, "box");
     follow(shortBox, "shortBox");
     follow(button, "button");
