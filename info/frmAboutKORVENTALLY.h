@@ -20,9 +20,9 @@ class frmAboutKORVENTALLY : public Window {
   static constexpr Font kLevelFont{"Arial", 6.75, true};
   static constexpr Font kOkFont{"Arial", 9};
 
-  // clang-format off
   PictureBox Picture1{*this, {240, 240, 735, 735}, Picture::kIcon48};
-  Label lblKORVENTALLY{*this, {1200, 165, 3135, 375}, "KORVENTALLY", Align::kLeft, kNameFont, colors::kBlue};
+  Label lblKORVENTALLY{*this,     {1200, 165, 3135, 375}, "KORVENTALLY", Align::kLeft,
+                       kNameFont, colors::kBlue};
   Label lblVersion{*this, {1410, 600, 1815, 255}, "", Align::kLeft, kVersionFont, colors::kBlue};
   Label lblLevel{*this, {1440, 840, 1695, 255}, "", Align::kLeft, kLevelFont, colors::kBlue};
 
@@ -34,7 +34,6 @@ class frmAboutKORVENTALLY : public Window {
 
   Button cmdOK{*this, {1500, 2640, 1215, 375}, "OK", kOkFont};
   CheckBox chkDebug{*this, {0, 2940, 255, 195}};
-  // clang-format on
 
   bool closesOnEscape() const override { return true; }
   void cmdOK_Click();

@@ -21,7 +21,6 @@ class frmRunSummary : public Window {
   static constexpr Font kRunFont{"Arial", 14.25, true};
   static constexpr Font kBackFont{"Arial", 14.25};
 
-  // clang-format off
   Label Label2{*this, {1440, 360, 1815, 255}, "Type of Analysis:", Align::kRight, kCaptionFont};
   Label lblAnalysisType{*this, {3360, 360, 1815, 255}, "", Align::kLeft, kValueFont};
 
@@ -40,18 +39,20 @@ class frmRunSummary : public Window {
   TextBox txtSILLimit{*this, {3360, 2240, 1095, 330}, "", 0, kValueFont};
   Label lblSILLimitValue{*this, {4560, 2280, 1815, 255}, "", Align::kLeft, kValueFont};
 
-  Label lblAmbientBckg{*this, {1080, 2760, 2175, 255}, "Ambient Background:", Align::kRight, kCaptionFont};
+  Label lblAmbientBckg{
+      *this, {1080, 2760, 2175, 255}, "Ambient Background:", Align::kRight, kCaptionFont};
   Label lblAmbientConc{*this, {3360, 2760, 1815, 255}, "", Align::kLeft, kValueFont};
 
-  Label lblRank1Values{*this, {1080, 3240, 2175, 255}, "Rank 1 Values:", Align::kRight, kCaptionFont};
+  Label lblRank1Values{
+      *this, {1080, 3240, 2175, 255}, "Rank 1 Values:", Align::kRight, kCaptionFont};
   Label lblRank1_YesNo{*this, {3360, 3240, 1815, 255}, "", Align::kLeft, kValueFont};
 
   Label lblRunning{*this, {2880, 3720, 1095, 375}, "", Align::kLeft, kStatusFont, colors::kBlue};
   Label lblStatus{*this, {120, 3720, 6375, 375}, "", Align::kCentre, kStatusFont, colors::kBlue};
-  CheckBox chkAutoOpen{*this, {1680, 4200, 3375, 255}, "Open KORVENTALLY output file after run", true};
+  CheckBox chkAutoOpen{
+      *this, {1680, 4200, 3375, 255}, "Open KORVENTALLY output file after run", true};
   Button cmdRUN{*this, {1846, 4560, 1400, 450}, "RUN", kRunFont};
   Button cmdBack{*this, {3368, 4560, 1400, 450}, "Back", kBackFont};
-  // clang-format on
 
   bool closesOnEscape() const override { return run_ == nullptr; }
   std::string sessionEndObjection() const override;

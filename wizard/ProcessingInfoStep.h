@@ -9,15 +9,18 @@ class ProcessingInfoStep : public WizardStep {
  public:
   explicit ProcessingInfoStep(frmKORVENTALLY& owner);
 
-  // clang-format off
   Frame frameProcessingInfo;
 
-  Frame frameReceptorDATFormat{frameProcessingInfo, {360, 325, 6615, 2070}, "File with Receptors to be Processed:"};
+  Frame frameReceptorDATFormat{
+      frameProcessingInfo, {360, 325, 6615, 2070}, "File with Receptors to be Processed:"};
   TextBox txtReceptorDATFile{frameReceptorDATFormat, {240, 420, 5150, 315}, "", 132};
   Button cmdBrowseReceptorDAT{frameReceptorDATFormat, {5480, 405, 975, 315}, "Browse"};
-  Label lblReceptorFileFormat{frameReceptorDATFormat, {240, 960, 1335, 255}, "File Format", Align::kLeft, fonts::kBold};
-  OptionButton optReceptor_TOLVREN{frameReceptorDATFormat, {480, 1275, 2775, 210}, "TOLVREN Output Ranked DAT File", true};
-  OptionButton optReceptor_Generic{frameReceptorDATFormat, {480, 1575, 2175, 210}, "Generic (X,Y,ID) DAT File"};
+  Label lblReceptorFileFormat{
+      frameReceptorDATFormat, {240, 960, 1335, 255}, "File Format", Align::kLeft, fonts::kBold};
+  OptionButton optReceptor_TOLVREN{
+      frameReceptorDATFormat, {480, 1275, 2775, 210}, "TOLVREN Output Ranked DAT File", true};
+  OptionButton optReceptor_Generic{
+      frameReceptorDATFormat, {480, 1575, 2175, 210}, "Generic (X,Y,ID) DAT File"};
 
   Frame frameRunLength{frameProcessingInfo, {7080, 325, 3975, 1300}, "Start Time and Run Length:"};
   Label lblYear{frameRunLength, {120, 345, 495, 255}, "Year:", Align::kRight};
@@ -41,9 +44,26 @@ class ProcessingInfoStep : public WizardStep {
   Button cmdPrevious4{Frame6, {240, 840, 1000, 315}, "PREVIOUS"};
   Button cmdNext4{Frame6, {240, 1380, 1000, 315}, "NEXT", fonts::kBold};
 
-  const ControlGroup ProcessingInfoControls{&frameProcessingInfo, &frameReceptorDATFormat, &optReceptor_TOLVREN, &optReceptor_Generic, &lblReceptorFileFormat, &cmdBrowseReceptorDAT, &frameRunLength, &lblYear, &lblMonth, &lblDay, &lblHour, &lblRunLength, &lblHours, &cmdPrevious4, &cmdNext4, &frameRank1Values, &optRank1_Exclude, &optRank1_Include};
-  const FieldGroup ProcessingInfoFields{&txtReceptorDATFile, &txtYear, &txtMonth, &txtDay, &txtHour, &txtRunLength};
-  // clang-format on
+  const ControlGroup ProcessingInfoControls{&frameProcessingInfo,
+                                            &frameReceptorDATFormat,
+                                            &optReceptor_TOLVREN,
+                                            &optReceptor_Generic,
+                                            &lblReceptorFileFormat,
+                                            &cmdBrowseReceptorDAT,
+                                            &frameRunLength,
+                                            &lblYear,
+                                            &lblMonth,
+                                            &lblDay,
+                                            &lblHour,
+                                            &lblRunLength,
+                                            &lblHours,
+                                            &cmdPrevious4,
+                                            &cmdNext4,
+                                            &frameRank1Values,
+                                            &optRank1_Exclude,
+                                            &optRank1_Include};
+  const FieldGroup ProcessingInfoFields{&txtReceptorDATFile, &txtYear, &txtMonth, &txtDay, &txtHour,
+                                        &txtRunLength};
 
   const ControlGroup& controls() const override { return ProcessingInfoControls; }
   const FieldGroup& fields() const override { return ProcessingInfoFields; }

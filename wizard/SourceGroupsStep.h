@@ -14,36 +14,62 @@ class SourceGroupsStep : public WizardStep {
  public:
   explicit SourceGroupsStep(frmKORVENTALLY& owner);
 
-  // clang-format off
   Frame frameSourceGroupInfo;
 
-  Label lblConcFile{frameSourceGroupInfo, {240, 435, 1695, 255}, "Concentration File:", Align::kRight};
+  Label lblConcFile{
+      frameSourceGroupInfo, {240, 435, 1695, 255}, "Concentration File:", Align::kRight};
   TextBox txtConcFile{frameSourceGroupInfo, {2040, 390, 7935, 315}, "", 132};
   Button cmdBrowseFile{frameSourceGroupInfo, {10080, 390, 975, 315}, "Browse"};
-  Label lblNote1{frameSourceGroupInfo, {2040, 735, 7935, 210}, "(Units must be g/m**3. Path/filenames may be no more than 132 characters in length.)"};
+  Label lblNote1{
+      frameSourceGroupInfo,
+      {2040, 735, 7935, 210},
+      "(Units must be g/m**3. Path/filenames may be no more than 132 characters in length.)"};
 
-  Label lblGroupName{frameSourceGroupInfo, {240, 1110, 1695, 255}, "Source Group Name:", Align::kRight};
+  Label lblGroupName{
+      frameSourceGroupInfo, {240, 1110, 1695, 255}, "Source Group Name:", Align::kRight};
   TextBox txtGroupName{frameSourceGroupInfo, {2040, 1065, 1935, 315}, "ALL_SOURCES", 13};
   Label lblNote2{frameSourceGroupInfo, {2040, 1410, 1935, 210}, "(Up to 13 chars.)"};
   Label lblNote4{frameSourceGroupInfo, {2040, 1635, 1935, 210}, "(Must begin with \"ALL\".)"};
-  Label lblNote5{frameSourceGroupInfo, {240, 1410, 1695, 420}, "(For output table column headers.)", Align::kRight};
+  Label lblNote5{frameSourceGroupInfo,
+                 {240, 1410, 1695, 420},
+                 "(For output table column headers.)",
+                 Align::kRight};
 
-  Label lblAmbientBckg{frameSourceGroupInfo, {4440, 1110, 1695, 255}, "Ambient Background:", Align::kRight};
+  Label lblAmbientBckg{
+      frameSourceGroupInfo, {4440, 1110, 1695, 255}, "Ambient Background:", Align::kRight};
   TextBox txtAmbientBckg{frameSourceGroupInfo, {6240, 1065, 1935, 315}, "", 132};
   Label lblugm3{frameSourceGroupInfo, {8280, 1110, 735, 255}, "ug/m**3"};
-  Label lblNote3{frameSourceGroupInfo, {6240, 1410, 4815, 630}, "(Please enter a constant ambient background concentration value if it is not already included in the above selected ALL SOURCES concentration file.)"};
+  Label lblNote3{frameSourceGroupInfo,
+                 {6240, 1410, 4815, 630},
+                 "(Please enter a constant ambient background concentration value if it is not "
+                 "already included in the above selected ALL SOURCES concentration file.)"};
 
   Button cmdPrevGroup{frameSourceGroupInfo, {3720, 2145, 1875, 375}, "<  PREVIOUS GROUP"};
-  Button cmdNextGroup{frameSourceGroupInfo, {5700, 2145, 1875, 375}, "  NEXT GROUP  >", fonts::kDefault, Button::Style::kGraphical};
+  Button cmdNextGroup{frameSourceGroupInfo,
+                      {5700, 2145, 1875, 375},
+                      "  NEXT GROUP  >",
+                      fonts::kDefault,
+                      Button::Style::kGraphical};
 
   Frame Frame1;
   Button cmdPrevious3{Frame1, {240, 900, 1000, 315}, "PREVIOUS"};
   Button cmdNext3{Frame1, {240, 1440, 1000, 315}, "NEXT", fonts::kBold};
 
-  const ControlGroup SourceGroupInfoControls{&frameSourceGroupInfo, &lblConcFile, &lblGroupName, &lblAmbientBckg, &lblugm3, &lblNote1, &lblNote2, &lblNote3, &lblNote4, &lblNote5, &cmdBrowseFile, &cmdPrevious3};
+  const ControlGroup SourceGroupInfoControls{&frameSourceGroupInfo,
+                                             &lblConcFile,
+                                             &lblGroupName,
+                                             &lblAmbientBckg,
+                                             &lblugm3,
+                                             &lblNote1,
+                                             &lblNote2,
+                                             &lblNote3,
+                                             &lblNote4,
+                                             &lblNote5,
+                                             &cmdBrowseFile,
+                                             &cmdPrevious3};
   const FieldGroup SourceGroupInfoFields{&txtConcFile, &txtGroupName, &txtAmbientBckg};
-  const ControlGroup AmbientBackgroundControls{&lblAmbientBckg, &lblugm3, &lblNote3, &lblNote4, &txtAmbientBckg};
-  // clang-format on
+  const ControlGroup AmbientBackgroundControls{&lblAmbientBckg, &lblugm3, &lblNote3, &lblNote4,
+                                               &txtAmbientBckg};
 
   const ControlGroup& controls() const override { return SourceGroupInfoControls; }
   const FieldGroup& fields() const override { return SourceGroupInfoFields; }

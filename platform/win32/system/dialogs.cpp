@@ -1,6 +1,7 @@
 #include "platform/dialogs.h"
 
-// clang-format off: the second header needs the types of the first
+// The second header needs the types of the first.
+// clang-format off
 #include <windows.h>
 #include <commdlg.h>
 // clang-format on
