@@ -1,0 +1,24 @@
+// Text and numbers in fixed columns.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace korventally::engine {
+
+// The text at the left or right edge of a column. A longer text is not cut.
+std::string Left(std::string_view text, std::size_t width);
+std::string Right(std::string_view text, std::size_t width);
+
+// The number with so many decimals, or with 4 significant digits and an exponent where it would
+// not fit into 10 characters otherwise.
+std::string Fixed(double number, int decimals);
+
+// The number in the fewest digits that give it back: 91 for 91.0, 0.2 for 0.2.
+std::string Shortest(double number);
+
+// "  label:              value", the form of all single facts.
+std::string Fact(std::string_view label, std::string_view value);
+
+}  // namespace korventally::engine
