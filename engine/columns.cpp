@@ -21,11 +21,10 @@ std::string Right(std::string_view text, std::size_t width) {
   return Padding(text.size(), width) + std::string(text);
 }
 
-std::string Fixed(double number, int decimals) {
-  constexpr int kWidest = 10;
+std::string Fixed(double number, int decimals, int widest) {
   char text[400];
-  if (std::snprintf(text, sizeof text, "%.*f", decimals, number) > kWidest) {
-    std::snprintf(text, sizeof text, "%.3E", number);
+  if (std::snprintf(text, sizeof text, "%.*f", decimals, number) > widest) {
+    std::snprintf(text, sizeof text, "%.*E", widest - 6, number);
   }
   return text;
 }

@@ -11,9 +11,8 @@ namespace korventally::engine {
 std::string Left(std::string_view text, std::size_t width);
 std::string Right(std::string_view text, std::size_t width);
 
-// The number with so many decimals, or with 4 significant digits and an exponent where it would
-// not fit into 10 characters otherwise.
-std::string Fixed(double number, int decimals);
+// The number with so many decimals; with an exponent instead where that is wider than `widest`.
+std::string Fixed(double number, int decimals, int widest = 10);
 
 // The number in the fewest digits that give it back: 91 for 91.0, 0.2 for 0.2.
 std::string Shortest(double number);

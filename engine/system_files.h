@@ -37,6 +37,8 @@ class InputFile {
 
   std::uint64_t size() const { return size_; }
 
+  std::string name() const { return TextFromPath(path_); }
+
   // "The file C:\\Study\\all.con, line 17": the start of a sentence about that line.
   std::string Named(std::uint64_t line) const {
     return "The file " + TextFromPath(path_) + ", line " + std::to_string(line);

@@ -14,12 +14,12 @@ START = (2009, 1, 12)  # a Monday; hours 0 to 23
 SPACING = 600.0        # metres between receptors
 SOURCES = {            # name: (x, y, stack height m, emission g/s)
     "facility": (-350.0, 250.0, 45.0, 48.0),
-    "other_1": (900.0, -800.0, 38.0, 62.0),
-    "other_2": (-1500.0, -900.0, 60.0, 56.0),
-    "other_3": (300.0, 1500.0, 30.0, 18.0),
+    "other_1": (900.0, -800.0, 38.0, 75.0),
+    "other_2": (-1500.0, -900.0, 60.0, 110.0),
+    "other_3": (300.0, 1500.0, 30.0, 26.0),
     "rest": (2600.0, 1900.0, 20.0, 4.0),  # small sources that form no group of their own
 }
-GROUPS = ["facility", "other_1"]
+GROUPS = ["facility", "other_1", "other_2", "other_3"]
 
 
 class Wobble:
