@@ -2,6 +2,7 @@
 #include <windows.h>
 
 #include <atomic>
+#include <csignal>
 #include <cstdlib>
 #include <exception>
 
@@ -199,6 +200,11 @@ void ArmCrashNotice(const OutputFile& file, std::string_view notice) {
   crash_handle = Handle(file.handle_);
   SetUnhandledExceptionFilter(OnException);
   SetConsoleCtrlHandler(OnConsoleEvent, TRUE);
+  // Neither of these reaches the exception filter.
+  std::signal(SIGABRT, [](int) {
+    LeaveNotice();
+    std::_Exit(3);
+  });
   std::set_terminate([] {
     LeaveNotice();
     std::_Exit(3);
