@@ -1,0 +1,23 @@
+// Text and numbers in fixed columns.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace korventally::engine {
+
+// The text at the left or right edge of a column. A longer text is not cut.
+std::string Left(std::string_view text, std::size_t width);
+std::string Right(std::string_view text, std::size_t width);
+
+// The number with so many decimals; with an exponent instead where that is wider than `widest`.
+std::string Fixed(double number, int decimals, int widest = 10);
+
+// The number in the fewest digits that give it back: 91 for 91.0, 0.2 for 0.2.
+std::string Shortest(double number);
+
+// "  label:              value", the form of all single facts.
+std::string Fact(std::string_view label, std::string_view value);
+
+}  // namespace korventally::engine

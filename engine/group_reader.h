@@ -1,0 +1,21 @@
+// Reads the concentration files of all groups, several at a time.
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <span>
+#include <vector>
+
+#include "engine/concentration_file.h"
+
+namespace korventally::engine {
+
+// One thread per processor, at most one per file. `done` is called on the calling thread, in the
+// order of the files, once the sums of that file and of all before it are known. Of several
+// faults the one of the first file is thrown, whichever thread met its fault first.
+std::vector<GroupSums> ReadGroups(std::span<const std::unique_ptr<InputFile>> files,
+                                  const Blocks& blocks, std::size_t receptors,
+                                  const std::function<void(std::size_t, const GroupSums&)>& done);
+
+}  // namespace korventally::engine

@@ -1,0 +1,141 @@
+#include "engine/judgement.h"
+
+#include <algorithm>
+#include <tuple>
+
+namespace korventally::engine {
+
+namespace {
+
+constexpr double kRounding = 1e-9;
+
+// Files with four or more significant digits stay within this.
+constexpr double kMisfitShare = 1e-3;
+constexpr double kMisfitFloor = 1e-3;  // ug/m**3
+
+bool ComesFirst(const Place& one, const Place& other) {
+  return std::tuple(-one.value, one.block, one.receptor) <
+         std::tuple(-other.value, other.block, other.receptor);
+}
+
+// The two highest blocks of one receptor.
+struct TopTwo {
+  Place first, second;
+
+  void Take(const Place& place) {
+    if (place.value > first.value) {
+      second = first;
+      first = place;
+    } else if (place.value > second.value) {
+      second = place;
+    }
+  }
+};
+
+std::vector<TopTwo> TopTwoOfReceptors(const Averages& averages, std::size_t group) {
+  constexpr double kNone = -1;  // below every average
+  const TopTwo none{{0, 0, kNone}, {0, 0, kNone}};
+  std::vector<TopTwo> tops(averages.receptors(), none);
+  for (std::size_t block = 0; block < averages.blocks(); ++block) {
+    for (std::size_t receptor = 0; receptor < averages.receptors(); ++receptor) {
+      tops[receptor].Take({block, receptor, averages.Total(group, block, receptor)});
+    }
+  }
+  return tops;
+}
+
+Maxima MaximaOf(const std::vector<TopTwo>& tops, bool has_second) {
+  Maxima maxima{tops.front().first, {}};
+  Place second = tops.front().second;
+  for (const TopTwo& top : tops) {
+    if (ComesFirst(top.first, maxima.highest)) maxima.highest = top.first;
+    if (ComesFirst(top.second, second)) second = top.second;
+  }
+  if (has_second) maxima.second = second;
+  return maxima;
+}
+
+// Counts the exceedances and keeps the largest of them.
+class Judging {
+ public:
+  Judging(const Case& the_case, const Averages& averages, Judgement& result)
+      : case_(the_case), averages_(averages), result_(result), exceeds_(averages.receptors()) {}
+
+  void Judge(const Place& place) {
+    ++result_.judged;
+    if (!Exceeds(place.value, case_.standard)) return;
+    ++result_.exceedances;
+    const double facility = averages_.Own(1, place.block, place.receptor);
+    if (Reaches(facility, case_.sil)) ++result_.significant;
+    if (!exceeds_[place.receptor]) ++result_.receptors;
+    exceeds_[place.receptor] = true;
+    Keep(place);
+  }
+
+ private:
+  // A heap whose front is the one to drop when there are too many.
+  void Keep(const Place& place) {
+    std::vector<Place>& heap = result_.largest;
+    heap.push_back(place);
+    std::push_heap(heap.begin(), heap.end(), ComesFirst);
+    if (heap.size() <= kMostExceedancesListed) return;
+    std::pop_heap(heap.begin(), heap.end(), ComesFirst);
+    heap.pop_back();
+  }
+
+  const Case& case_;
+  const Averages& averages_;
+  Judgement& result_;
+  std::vector<bool> exceeds_;
+};
+
+void CheckFit(const Averages& averages, const Place& place, double own, Misfit& misfit) {
+  double parts = 0;
+  for (std::size_t group = 1; group < averages.groups(); ++group) {
+    parts += averages.Own(group, place.block, place.receptor);
+  }
+  const double beyond = parts - own;
+  if (beyond <= kMisfitShare * own + kMisfitFloor) return;
+  if (misfit.count++ == 0 || beyond > misfit.worst.value) {
+    misfit.worst = {place.block, place.receptor, beyond};
+  }
+}
+
+}  // namespace
+
+Averages::Averages(const Case& the_case, const Blocks& blocks, const std::vector<GroupSums>& groups,
+                   std::size_t receptors)
+    : groups_(groups),
+      blocks_(static_cast<std::size_t>(blocks.count)),
+      receptors_(receptors),
+      scale_(the_case.scale),
+      offset_(the_case.offset),
+      background_(the_case.background),
+      hours_(static_cast<double>(blocks.hours)) {}
+
+bool Exceeds(double total, double standard) { return total - standard > kRounding * standard; }
+
+bool Reaches(double contribution, double sil) { return contribution - sil >= -kRounding * sil; }
+
+Judgement Judge(const Case& the_case, const Averages& averages) {
+  Judgement result;
+  for (std::size_t group = 0; group < averages.groups(); ++group) {
+    const std::vector<TopTwo> tops = TopTwoOfReceptors(averages, group);
+    result.maxima.push_back(MaximaOf(tops, averages.blocks() > 1));
+    if (group > 0 || !the_case.exclude_rank1) continue;
+    for (const TopTwo& top : tops) result.left_out.push_back(top.first);
+  }
+  Judging judging(the_case, averages, result);
+  for (std::size_t block = 0; block < averages.blocks(); ++block) {
+    for (std::size_t receptor = 0; receptor < averages.receptors(); ++receptor) {
+      const Place place{block, receptor, averages.Total(0, block, receptor)};
+      CheckFit(averages, place, averages.Own(0, block, receptor), result.misfit);
+      if (the_case.exclude_rank1 && result.left_out[receptor].block == block) continue;
+      judging.Judge(place);
+    }
+  }
+  std::sort_heap(result.largest.begin(), result.largest.end(), ComesFirst);
+  return result;
+}
+
+}  // namespace korventally::engine

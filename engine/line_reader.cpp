@@ -1,0 +1,52 @@
+#include "engine/line_reader.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "engine/fault.h"
+#include "engine/text.h"
+
+namespace korventally::engine {
+
+LineReader::LineReader(InputFile& file, std::size_t longest_line)
+    : file_(file), longest_line_(longest_line), buffer_(kBlock + kPadding) {}
+
+bool LineReader::Next(std::string_view& line) {
+  std::size_t searched = begin_;
+  const void* found = nullptr;
+  while ((found = std::memchr(&buffer_[searched], '\n', end_ - searched)) == nullptr) {
+    const std::size_t unsearched = end_ - begin_;
+    if (!ReadMore()) break;
+    searched = begin_ + unsearched;
+  }
+  if (found == nullptr && begin_ == end_) return false;
+  complete_ = found != nullptr;
+  const char* start = &buffer_[begin_];
+  const char* stop = found != nullptr ? static_cast<const char*>(found) : &buffer_[end_];
+  begin_ += static_cast<std::size_t>(stop - start) + (found != nullptr ? 1 : 0);
+  if (stop > start && found != nullptr && stop[-1] == '\r') --stop;
+  line = std::string_view(start, static_cast<std::size_t>(stop - start));
+  ++line_number_;
+  return true;
+}
+
+// False at the end of the file.
+bool LineReader::ReadMore() {
+  MakeRoom();
+  const std::size_t count = file_.Read(&buffer_[end_], buffer_.size() - kPadding - end_);
+  end_ += count;
+  return count > 0;
+}
+
+void LineReader::MakeRoom() {
+  if (end_ - begin_ > longest_line_) {
+    throw Fault(file_.Named(line_number_ + 1) + " is longer than " + Grouped(longest_line_) +
+                " bytes; is this the right file?");
+  }
+  std::memmove(buffer_.data(), &buffer_[begin_], end_ - begin_);
+  end_ -= begin_;
+  begin_ = 0;
+  if (end_ + kBlock / 2 > buffer_.size() - kPadding) buffer_.resize(buffer_.size() + kBlock);
+}
+
+}  // namespace korventally::engine

@@ -1,0 +1,5 @@
+#include "engine/command_line.h"
+
+int main(int count, char** arguments) {
+  return korventally::engine::Main({arguments, arguments + count});
+}

@@ -1,0 +1,139 @@
+// The POSIX side of the engine's files; the native build and its sanitizers run on it.
+#include <fcntl.h>
+#include <signal.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <atomic>
+#include <cerrno>
+#include <iterator>
+#include <system_error>
+
+#include "engine/fault.h"
+#include "engine/system_files.h"
+
+namespace korventally::engine {
+
+namespace {
+
+[[noreturn]] void Fail(const NativePath& path, const std::string& what, int error) {
+  throw Fault("The file " + path.native() + " cannot be " + what + ": " +
+              std::generic_category().message(error) + " (error " + std::to_string(error) + ").");
+}
+
+int Descriptor(std::intptr_t handle) { return static_cast<int>(handle); }
+
+// Writes everything or returns the error number; a write may take less than it was given.
+int WriteAll(int descriptor, std::string_view text) {
+  while (!text.empty()) {
+    const ssize_t written = ::write(descriptor, text.data(), text.size());
+    if (written < 0 && errno == EINTR) continue;
+    if (written < 0) return errno;
+    if (written == 0) return ENOSPC;
+    text.remove_prefix(static_cast<std::size_t>(written));
+  }
+  return 0;
+}
+
+std::atomic<int> crash_descriptor{-1};
+std::string_view crash_notice;
+constexpr int kSignals[] = {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT, SIGINT, SIGTERM, SIGHUP};
+using Handler = void (*)(int);
+Handler earlier_handlers[std::size(kSignals)];
+
+// Only calls that are allowed inside a signal handler.
+extern "C" void OnSignal(int number) {
+  const int descriptor = crash_descriptor.exchange(-1);
+  if (descriptor >= 0) static_cast<void>(WriteAll(descriptor, crash_notice));
+  ::signal(number, SIG_DFL);
+  ::raise(number);
+}
+
+}  // namespace
+
+NativePath PathFromText(std::string_view text) { return NativePath(std::string(text)); }
+
+std::string TextFromPath(const NativePath& path) { return path.native(); }
+
+bool SameFile(const NativePath& one, const NativePath& other) {
+  struct stat first, second;
+  if (::stat(one.c_str(), &first) != 0 || ::stat(other.c_str(), &second) != 0) return false;
+  return first.st_dev == second.st_dev && first.st_ino == second.st_ino;
+}
+
+InputFile::InputFile(const NativePath& path) : path_(path) {
+  const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+  if (descriptor < 0) Fail(path_, "opened", errno);
+  struct stat state;
+  const bool known = ::fstat(descriptor, &state) == 0;
+  if (!known || !S_ISREG(state.st_mode)) {
+    ::close(descriptor);
+    throw Fault("The file " + path.native() + " cannot be opened: it is not an ordinary file.");
+  }
+  handle_ = descriptor;
+  size_ = static_cast<std::uint64_t>(state.st_size);
+}
+
+InputFile::~InputFile() { ::close(Descriptor(handle_)); }
+
+std::size_t InputFile::Read(char* to, std::size_t size) {
+  for (;;) {
+    const ssize_t count = ::read(Descriptor(handle_), to, size);
+    if (count >= 0) return static_cast<std::size_t>(count);
+    if (errno != EINTR) Fail(path_, "read", errno);
+  }
+}
+
+OutputFile::OutputFile(const NativePath& path) : path_(path) {
+  handle_ = ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+  if (handle_ < 0) Fail(path_, "created", errno);
+}
+
+OutputFile::~OutputFile() {
+  if (handle_ >= 0) ::close(Descriptor(handle_));
+}
+
+void OutputFile::Append(std::string_view text) {
+  const int error = WriteAll(Descriptor(handle_), text);
+  // The part of a failed write that did arrive belongs to the file all the same.
+  const off_t end = ::lseek(Descriptor(handle_), 0, SEEK_END);
+  if (end >= 0) size_ = static_cast<std::uint64_t>(end);
+  if (error != 0) Fail(path_, "written", error);
+}
+
+void OutputFile::ReplaceFrom(std::uint64_t place, std::string_view text) {
+  const auto start = static_cast<off_t>(place);
+  if (::lseek(Descriptor(handle_), start, SEEK_SET) < 0) Fail(path_, "written", errno);
+  const int error = WriteAll(Descriptor(handle_), text);
+  if (error != 0) Fail(path_, "written", error);
+  size_ = place + text.size();
+  if (::ftruncate(Descriptor(handle_), static_cast<off_t>(size_)) != 0) Fail(path_, "cut", errno);
+}
+
+void OutputFile::Flush() {
+  if (::fsync(Descriptor(handle_)) != 0 && errno != EINVAL) Fail(path_, "written", errno);
+}
+
+void OutputFile::Close() {
+  if (handle_ < 0) return;
+  const int descriptor = Descriptor(handle_);
+  handle_ = -1;
+  if (::close(descriptor) != 0) Fail(path_, "closed", errno);
+}
+
+void ArmCrashNotice(const OutputFile& file, std::string_view notice) {
+  crash_notice = notice;
+  crash_descriptor = Descriptor(file.handle_);
+  for (std::size_t i = 0; i < std::size(kSignals); ++i) {
+    earlier_handlers[i] = ::signal(kSignals[i], OnSignal);
+  }
+}
+
+void DisarmCrashNotice() {
+  if (crash_descriptor.exchange(-1) < 0) return;
+  for (std::size_t i = 0; i < std::size(kSignals); ++i) {
+    ::signal(kSignals[i], earlier_handlers[i]);
+  }
+}
+
+}  // namespace korventally::engine

@@ -1,0 +1,12 @@
+// The head of the list file: title, date, and the case as it was given.
+#pragma once
+
+#include "engine/control_file.h"
+#include "engine/list_file.h"
+
+namespace korventally::engine {
+
+void ReportTitle(ListFile& list);
+void ReportCase(const Case& the_case, ListFile& list);
+
+}  // namespace korventally::engine

@@ -1,0 +1,216 @@
+// The Windows side of the engine's files: wide calls only, paths of any length.
+#include <windows.h>
+
+#include <atomic>
+#include <csignal>
+#include <cstdlib>
+#include <exception>
+
+#include "engine/fault.h"
+#include "engine/system_files.h"
+
+namespace korventally::engine {
+
+namespace {
+
+HANDLE Handle(std::intptr_t handle) { return reinterpret_cast<HANDLE>(handle); }
+
+std::string Narrow(std::wstring_view text) {
+  const auto length = static_cast<int>(text.size());
+  if (length == 0) return {};
+  const int size =
+      WideCharToMultiByte(CP_ACP, 0, text.data(), length, nullptr, 0, nullptr, nullptr);
+  std::string narrow(static_cast<std::size_t>(size), '?');
+  WideCharToMultiByte(CP_ACP, 0, text.data(), length, narrow.data(), size, nullptr, nullptr);
+  return narrow;
+}
+
+std::string SystemText(DWORD error) {
+  wchar_t text[512];
+  const DWORD flags = FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS;
+  const DWORD size = FormatMessageW(flags, nullptr, error, 0, text, 512, nullptr);
+  std::string narrow = Narrow({text, size});
+  while (!narrow.empty() && (narrow.back() <= ' ' || narrow.back() == '.')) narrow.pop_back();
+  for (char& c : narrow) {
+    if (c == '\r' || c == '\n') c = ' ';
+  }
+  return narrow.empty() ? "the system gives no reason" : narrow;
+}
+
+[[noreturn]] void Fail(const NativePath& path, const std::string& what, DWORD error) {
+  throw Fault("The file " + TextFromPath(path) + " cannot be " + what + ": " + SystemText(error) +
+              " (error " + std::to_string(error) + ").");
+}
+
+// The full path; from 248 characters on in the form that lifts the limit of 260.
+std::wstring FullPath(const NativePath& path) {
+  std::wstring full(32768, L'\0');
+  const DWORD size =
+      GetFullPathNameW(path.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr);
+  if (size == 0 || size >= full.size()) return path.native();
+  full.resize(size);
+  if (full.size() < 248 || full.starts_with(L"\\\\?\\") || full.starts_with(L"\\\\.\\"))
+    return full;
+  if (full.starts_with(L"\\\\")) return L"\\\\?\\UNC" + full.substr(1);
+  return L"\\\\?\\" + full;
+}
+
+constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
+HANDLE Open(const NativePath& path, DWORD access, DWORD disposition, DWORD flags) {
+  return CreateFileW(FullPath(path).c_str(), access, kShareAll, nullptr, disposition, flags,
+                     nullptr);
+}
+
+// Refuses consoles, pipes and devices such as NUL, which open like files but hold nothing.
+void RequireDiskFile(HANDLE handle, const NativePath& path) {
+  if (GetFileType(handle) == FILE_TYPE_DISK) return;
+  CloseHandle(handle);
+  throw Fault("The file " + TextFromPath(path) + " cannot be opened: it is not an ordinary file.");
+}
+
+DWORD WriteAll(HANDLE handle, std::string_view text) {
+  while (!text.empty()) {
+    DWORD written = 0;
+    const auto size = static_cast<DWORD>(text.size() < (1u << 30) ? text.size() : (1u << 30));
+    if (!WriteFile(handle, text.data(), size, &written, nullptr)) return GetLastError();
+    if (written == 0) return ERROR_DISK_FULL;
+    text.remove_prefix(written);
+  }
+  return ERROR_SUCCESS;
+}
+
+bool MoveTo(HANDLE handle, std::uint64_t place, DWORD method, std::uint64_t* end) {
+  LARGE_INTEGER distance, result;
+  distance.QuadPart = static_cast<LONGLONG>(place);
+  if (!SetFilePointerEx(handle, distance, &result, method)) return false;
+  *end = static_cast<std::uint64_t>(result.QuadPart);
+  return true;
+}
+
+std::atomic<HANDLE> crash_handle{INVALID_HANDLE_VALUE};
+std::string_view crash_notice;
+
+void LeaveNotice() {
+  const HANDLE handle = crash_handle.exchange(INVALID_HANDLE_VALUE);
+  if (handle != INVALID_HANDLE_VALUE) static_cast<void>(WriteAll(handle, crash_notice));
+}
+
+LONG WINAPI OnException(EXCEPTION_POINTERS*) {
+  LeaveNotice();
+  return EXCEPTION_EXECUTE_HANDLER;
+}
+
+BOOL WINAPI OnConsoleEvent(DWORD) {
+  LeaveNotice();
+  TerminateProcess(GetCurrentProcess(), 1);
+  return TRUE;
+}
+
+}  // namespace
+
+NativePath PathFromText(std::string_view text) {
+  const auto length = static_cast<int>(text.size());
+  if (length == 0) return {};
+  const int size =
+      MultiByteToWideChar(CP_ACP, MB_ERR_INVALID_CHARS, text.data(), length, nullptr, 0);
+  if (size == 0) throw Fault("A path is not text in the code page of this system.");
+  std::wstring wide(static_cast<std::size_t>(size), L'\0');
+  MultiByteToWideChar(CP_ACP, MB_ERR_INVALID_CHARS, text.data(), length, wide.data(), size);
+  return NativePath(wide);
+}
+
+std::string TextFromPath(const NativePath& path) { return Narrow(path.native()); }
+
+bool SameFile(const NativePath& one, const NativePath& other) {
+  const HANDLE first = Open(one, 0, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS);
+  const HANDLE second = Open(other, 0, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS);
+  BY_HANDLE_FILE_INFORMATION a, b;
+  const bool known = first != INVALID_HANDLE_VALUE && second != INVALID_HANDLE_VALUE &&
+                     GetFileInformationByHandle(first, &a) &&
+                     GetFileInformationByHandle(second, &b);
+  if (first != INVALID_HANDLE_VALUE) CloseHandle(first);
+  if (second != INVALID_HANDLE_VALUE) CloseHandle(second);
+  return known && a.dwVolumeSerialNumber == b.dwVolumeSerialNumber &&
+         a.nFileIndexHigh == b.nFileIndexHigh && a.nFileIndexLow == b.nFileIndexLow;
+}
+
+InputFile::InputFile(const NativePath& path) : path_(path) {
+  const HANDLE handle = Open(path, GENERIC_READ, OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN);
+  if (handle == INVALID_HANDLE_VALUE) Fail(path_, "opened", GetLastError());
+  RequireDiskFile(handle, path);
+  LARGE_INTEGER size;
+  if (!GetFileSizeEx(handle, &size)) {
+    const DWORD error = GetLastError();
+    CloseHandle(handle);
+    Fail(path_, "read", error);
+  }
+  handle_ = reinterpret_cast<std::intptr_t>(handle);
+  size_ = static_cast<std::uint64_t>(size.QuadPart);
+}
+
+InputFile::~InputFile() { CloseHandle(Handle(handle_)); }
+
+std::size_t InputFile::Read(char* to, std::size_t size) {
+  DWORD count = 0;
+  const auto wanted = static_cast<DWORD>(size < (1u << 30) ? size : (1u << 30));
+  if (!ReadFile(Handle(handle_), to, wanted, &count, nullptr)) Fail(path_, "read", GetLastError());
+  return count;
+}
+
+OutputFile::OutputFile(const NativePath& path) : path_(path) {
+  const HANDLE handle = Open(path, GENERIC_WRITE, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL);
+  if (handle == INVALID_HANDLE_VALUE) Fail(path_, "created", GetLastError());
+  RequireDiskFile(handle, path);
+  handle_ = reinterpret_cast<std::intptr_t>(handle);
+}
+
+OutputFile::~OutputFile() {
+  if (handle_ != -1) CloseHandle(Handle(handle_));
+}
+
+void OutputFile::Append(std::string_view text) {
+  const DWORD error = WriteAll(Handle(handle_), text);
+  // The part of a failed write that did arrive belongs to the file all the same.
+  MoveTo(Handle(handle_), 0, FILE_END, &size_);
+  if (error != ERROR_SUCCESS) Fail(path_, "written", error);
+}
+
+void OutputFile::ReplaceFrom(std::uint64_t place, std::string_view text) {
+  if (!MoveTo(Handle(handle_), place, FILE_BEGIN, &size_)) Fail(path_, "written", GetLastError());
+  const DWORD error = WriteAll(Handle(handle_), text);
+  if (error != ERROR_SUCCESS) Fail(path_, "written", error);
+  size_ = place + text.size();
+  if (!SetEndOfFile(Handle(handle_))) Fail(path_, "cut", GetLastError());
+}
+
+void OutputFile::Flush() {
+  if (!FlushFileBuffers(Handle(handle_))) Fail(path_, "written", GetLastError());
+}
+
+void OutputFile::Close() {
+  if (handle_ == -1) return;
+  const HANDLE handle = Handle(handle_);
+  handle_ = -1;
+  if (!CloseHandle(handle)) Fail(path_, "closed", GetLastError());
+}
+
+void ArmCrashNotice(const OutputFile& file, std::string_view notice) {
+  crash_notice = notice;
+  crash_handle = Handle(file.handle_);
+  SetUnhandledExceptionFilter(OnException);
+  SetConsoleCtrlHandler(OnConsoleEvent, TRUE);
+  // Neither of these reaches the exception filter.
+  std::signal(SIGABRT, [](int) {
+    LeaveNotice();
+    std::_Exit(3);
+  });
+  std::set_terminate([] {
+    LeaveNotice();
+    std::_Exit(3);
+  });
+}
+
+void DisarmCrashNotice() { crash_handle = INVALID_HANDLE_VALUE; }
+
+}  // namespace korventally::engine

@@ -1,0 +1,287 @@
+#!/usr/bin/env python3
+"""Checks the engine against slow, obvious arithmetic on random studies.
+
+Usage: check_engine.py [--count N] [--seed S] ENGINE...
+ENGINE is the program, or a command in front of it (wine path/to/korventally.exe).
+
+Every study is computed here with exact fractions from the very texts that the files hold, then
+the engine's list file is read as a person would read it: maxima, counts, exceedances with their
+contributions, averages left out, warnings. Exit status 1 and the study's folder on a difference.
+"""
+import argparse
+import datetime
+import pathlib
+import random
+import re
+import shutil
+import subprocess
+import sys
+import tempfile
+from fractions import Fraction
+
+LINE = " " * 29 + ":"
+MICRO = Fraction(10) ** 6
+TINY = Fraction(1, 10**9)
+
+
+def number(rng):
+    """A value in g/m**3 in one of the ways that models write it; now and then zero."""
+    value = 0.0 if rng.random() < 0.1 else 10 ** rng.uniform(-8, -3.5)
+    ways = ["%.5E", "%.3e", "%.7E", "%.9f", "%.2E", "%12.4E", "%.12g", "%.1E"]
+    return rng.choice(ways) % value
+
+
+class Study:
+    def __init__(self, rng, folder):
+        self.rng, self.folder = rng, folder
+        self.groups = rng.choice([2, 3, 3, 5, 5, 8, 13, 50])
+        self.receptors = rng.choice([1, 2, 3, 4, 7])
+        self.choose_period()
+        self.start = datetime.datetime(rng.choice([2008, 2009, 2011]), rng.choice([1, 2, 12]),
+                                       rng.choice([1, 28]), rng.choice([0, 1, 23]))
+        self.rank1 = rng.random() < 0.5
+        self.background = rng.choice(["0", "0", "12.5", "3", "0.125"])
+        self.separator = rng.choice([" ", "  ", "\t", ",", ", ", " ,"])
+        self.line_end = rng.choice(["\n", "\r\n"])
+        self.names = ["ALL_SOURCES", "FACILITY"] + ["OTHER_%d" % i for i in range(1, 49)]
+        self.make_values()
+        self.compute()
+        self.choose_limits()
+
+    def choose_period(self):
+        """The averaging period, the run length, and hours in the files outside of the run."""
+        rng = self.rng
+        self.averaging = rng.choice([1, 3, 3, 8, 24, 24, 8760, 8784])
+        self.annual = self.averaging >= 8760
+        self.run = rng.randint(1, 400) if self.annual else rng.randint(self.averaging, 130)
+        self.block = self.run if self.annual else self.averaging
+        self.blocks = self.run // self.block
+        self.before, self.after = rng.choice([0, 0, 5]), rng.choice([0, 0, 7])
+
+    def make_values(self):
+        hours = self.before + self.run + self.after
+        self.texts = []
+        for _ in range(self.groups):
+            self.texts.append([[number(self.rng).strip() for _ in range(self.receptors)]
+                               for _ in range(hours)])
+        if self.rng.random() < 0.5:  # the first group is what the others add up to
+            share = Fraction(self.rng.choice([900, 1000, 1300]), 1000)
+            for hour in range(hours):
+                for r in range(self.receptors):
+                    parts = sum(Fraction(self.texts[g][hour][r]) for g in range(1, self.groups))
+                    self.texts[0][hour][r] = "%.6E" % float(parts * share)
+
+    def compute(self):
+        self.own = []
+        for group in self.texts:
+            hours = group[self.before:]
+            self.own.append([[sum(Fraction(hours[b * self.block + h][r])
+                                  for h in range(self.block)) * MICRO / self.block
+                              for r in range(self.receptors)] for b in range(self.blocks)])
+        back = Fraction(self.background)
+        self.total = [[v + back for v in row] for row in self.own[0]]
+
+    def choose_limits(self):
+        totals = sorted(v for row in self.total for v in row)
+        facility = sorted(v for row in self.own[1] for v in row)
+        pick = self.rng.choice(totals)
+        # Now and then the standard is one of the values itself, as near as decimals allow.
+        self.standard = "%.10f" % float(pick if self.rng.random() < 0.3 else pick * Fraction(97, 100))
+        self.sil = "%.4f" % max(0.0001, float(self.rng.choice(facility)))
+        if float(self.standard) <= 0:
+            self.standard = "0.5"
+
+    def write(self):
+        receptor_format = self.rng.choice(["1", "2"])
+        ids = ["R%d" % (r + 1) for r in range(self.receptors)]
+        place = [(100.5 * r, -20.25 * r * r) for r in range(self.receptors)]
+        with open(self.folder / "rec.dat", "w", newline="") as out:
+            out.write("# receptors%s" % self.line_end)
+            order = list(range(self.receptors))
+            if receptor_format == "2":
+                order += [self.rng.choice(order) for _ in range(5)]
+            for rank, r in enumerate(order):
+                fields = ["%.4f" % place[r][0], "%.4f" % place[r][1], ids[r]]
+                if receptor_format == "2":
+                    fields = [str(rank + 1), "12.5"] + fields
+                out.write(self.separator.join(fields) + self.line_end)
+        for g in range(self.groups):
+            self.write_group(self.folder / ("g%d.con" % g), self.texts[g])
+        lines = [str(self.folder / "out.lst"), "SO2", self.start.strftime("%Y,%m,%d,%H"),
+                 str(self.run), str(self.groups)]
+        for g in range(self.groups):
+            lines += [str(self.folder / ("g%d.con" % g)), self.names[g]]
+        lines += ["1000000.0,0.0", self.background, str(self.averaging), self.standard,
+                  receptor_format, str(self.folder / "rec.dat"), "1", self.sil, "2",
+                  "T" if self.rank1 else "F", "0"]
+        with open(self.folder / "korventally.inp", "w", newline="") as out:
+            out.write("".join(LINE + line + "\r\n" for line in lines))
+
+    def write_group(self, path, rows):
+        moment = self.start - datetime.timedelta(hours=self.before)
+        midnight_is_24 = self.rng.random() < 0.3
+        with open(path, "w", newline="") as out:
+            out.write("# hourly values%s#%s" % (self.line_end, self.line_end))
+            for row in rows:
+                day, hour = moment, moment.hour
+                if midnight_is_24 and hour == 0:
+                    day, hour = moment - datetime.timedelta(days=1), 24
+                fields = [str(day.year), "%02d" % day.month, str(day.day), "%d" % hour] + row
+                out.write(self.separator.join(fields) + self.line_end)
+                moment += datetime.timedelta(hours=1)
+
+    def date(self, block):
+        return (self.start + datetime.timedelta(hours=block * self.block)).strftime("%Y-%m-%d %H")
+
+
+class Difference(Exception):
+    pass
+
+
+def same(shown, exact, what, digits=4):
+    """The figure shown is the exact value, rounded to what is shown."""
+    slack = Fraction(51, 100) / 10**digits
+    if "E" in shown:
+        slack = abs(exact) * Fraction(1, 100)
+    if abs(Fraction(shown) - exact) > slack + abs(exact) * TINY:
+        raise Difference("%s: %s is shown, %s is right" % (what, shown, float(exact)))
+
+
+def need(condition, what):
+    if not condition:
+        raise Difference(what)
+
+
+def section(lines, start):
+    begin = next(i for i, line in enumerate(lines) if line.startswith(start))
+    end = next(i for i in range(begin, len(lines)) if lines[i] == "")
+    return lines[begin + 1:end]
+
+
+def check_maxima(study, lines):
+    rows = section(lines, "HIGHEST")[2:]
+    need(len(rows) == study.groups * (2 if study.blocks > 1 else 1), "rows of maxima")
+    values = [study.total] + study.own[1:]
+    for i, row in enumerate(rows):
+        group, second = (i // 2, i % 2) if study.blocks > 1 else (i, 0)
+        m = re.match(r"  (.{15})(1st|2nd) +(\S+)  (\S+) +(\S+) +(\S+)  (\S+ \d\d)$", row)
+        need(m, "form of " + row)
+        need(m[1].strip() == ("" if second else study.names[group]), "group in " + row)
+        need(m[2] == ("2nd" if second else "1st"), "rank in " + row)
+        of_receptor = [sorted((values[group][b][r] for b in range(study.blocks)), reverse=True)[second]
+                       for r in range(study.receptors)]
+        same(m[3], max(of_receptor), "maximum " + row)
+        r = int(m[4][1:]) - 1
+        block = [study.date(b) for b in range(study.blocks)].index(m[7])
+        need(abs(values[group][block][r] - max(of_receptor)) <= TINY * max(of_receptor), "place in " + row)
+        same(m[5], Fraction(201, 2) * r, "X in " + row, 1)
+
+
+def judged_places(study, lines):
+    places = [(b, r) for b in range(study.blocks) for r in range(study.receptors)]
+    if not study.rank1:
+        need(not any(line.startswith("RANK 1 AVERAGES") for line in lines), "left-out section")
+        return places
+    rows = section(lines, "RANK 1 AVERAGES")[1:]
+    need(len(rows) == study.receptors, "rows left out")
+    for r, row in enumerate(rows):
+        m = re.match(r"  R(\d+) .*  (\d{4}-\d\d-\d\d \d\d) +(\S+)$", row)
+        need(m and int(m[1]) == r + 1, "form of " + row)
+        block = [study.date(b) for b in range(study.blocks)].index(m[2])
+        highest = max(study.total[b][r] for b in range(study.blocks))
+        need(abs(study.total[block][r] - highest) <= TINY * highest, "block in " + row)
+        same(m[3], highest, row)
+        places.remove((block, r))
+    return places
+
+
+def check_judgement(study, lines):
+    places = judged_places(study, lines)
+    standard, sil = Fraction(study.standard), Fraction(study.sil)
+    exceeding = [p for p in places if study.total[p[0]][p[1]] - standard > TINY * standard]
+    significant = [p for p in exceeding if study.own[1][p[0]][p[1]] - sil >= -TINY * sil]
+    facts = dict(re.match(r"  (.*?): +([\d,]+)", line).groups() for line in section(lines, "JUDGEMENT"))
+    need(int(facts["Averages judged"]) == len(places), "averages judged")
+    need(int(facts["Exceedances"]) == len(exceeding), "exceedances")
+    need(int(facts["Receptors that exceed"]) == len({p[1] for p in exceeding}), "receptors")
+    need(int(facts["Significant exceedances"]) == len(significant), "significant")
+    check_rows(study, section(lines, "EXCEEDANCES"), exceeding, significant)
+
+
+def check_rows(study, rows, exceeding, significant):
+    if not exceeding:
+        need(rows == ["  None."], "no exceedances")
+        return
+    text = "\n".join(rows[rows.index(next(r for r in rows if r.startswith("---"))) + 1:])
+    more = re.search(r"\n  and (\d+) exceedances? more.*$", text)
+    need((int(more[1]) if more else 0) == max(0, len(exceeding) - 50), "exceedances not shown")
+    entries = re.findall(r"(?m)^ +(\d+)  R(\d+) +\S+ +\S+  (\S+ \d\d) +(\S+) +(yes|no) (.*(?:\n      .*)*)",
+                         text[:more.start()] if more else text)
+    need(len(entries) == min(50, len(exceeding)), "rows of exceedances")
+    ordered = sorted((study.total[b][r] for b, r in exceeding), reverse=True)
+    seen = set()
+    for i, (no, receptor, date, total, yes, cells) in enumerate(entries):
+        place = ([study.date(b) for b in range(study.blocks)].index(date), int(receptor) - 1)
+        exact = study.total[place[0]][place[1]]
+        need(int(no) == i + 1 and place in exceeding and place not in seen, "row " + no)
+        need(abs(exact - ordered[i]) <= TINY * exact, "order at row " + no)
+        seen.add(place)
+        same(total, exact, "total of row " + no)
+        need((yes == "yes") == (place in significant), "SIL of row " + no)
+        cells = cells.split()
+        need(len(cells) == 2 * (study.groups - 1), "cells of row " + no)
+        for g in range(1, study.groups):
+            own = study.own[g][place[0]][place[1]]
+            same(cells[2 * g - 2], own, "row %s, group %d" % (no, g), 3)
+            if cells[2 * g - 1] != ">999":
+                same(cells[2 * g - 1], 100 * own / exact, "per cent of row " + no, 1)
+
+
+def check_misfit(study, lines):
+    count, worst = 0, 0
+    for b in range(study.blocks):
+        for r in range(study.receptors):
+            own = study.own[0][b][r]
+            beyond = sum(study.own[g][b][r] for g in range(1, study.groups)) - own
+            if beyond > own / 1000 + Fraction(1, 1000):
+                count, worst = count + 1, max(worst, beyond)
+    text = " ".join(section(lines, "WARNINGS"))
+    m = re.search(r"In ([\d,]+) averages? the groups.*The worst case: (\S+) against (\S+) ug", text)
+    need(bool(m) == (count > 0), "misfit warning")
+    if m:
+        need(int(m[1].replace(",", "")) == count, "misfit count")
+        same(str(float(m[2]) - float(m[3])), worst, "worst misfit", 3)
+
+
+def check(study, engine):
+    study.write()
+    subprocess.run(engine + [str(study.folder / "korventally.inp")], check=False, timeout=120)
+    data = (study.folder / "out.lst").read_bytes().decode("ascii")
+    need(data.endswith("\r\nRUN COMPLETED\r\n"), "verdict: " + data[-300:])
+    lines = data.split("\r\n")
+    need(max(map(len, section(lines, "EXCEEDANCES"))) <= 132, "width")
+    check_maxima(study, lines)
+    check_judgement(study, lines)
+    check_misfit(study, lines)
+
+
+def main():
+    parser = argparse.ArgumentParser()
+    parser.add_argument("--count", type=int, default=60)
+    parser.add_argument("--seed", type=int, default=1)
+    parser.add_argument("engine", nargs="+")
+    options = parser.parse_args()
+    for seed in range(options.seed, options.seed + options.count):
+        folder = pathlib.Path(tempfile.mkdtemp(prefix="korventally check "))
+        try:
+            check(Study(random.Random(seed), folder), options.engine)
+        except Difference as difference:
+            print("seed %d, files in %s: %s" % (seed, folder, difference))
+            return 1
+        shutil.rmtree(folder)
+    print("%d random studies agree" % options.count)
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

@@ -1,0 +1,59 @@
+// A disk that takes no more, played by the limit that POSIX systems set on the size of a file:
+// what lies within the limit can be written over, and nothing can be added behind it.
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/resource.h>
+
+#include <string>
+
+#include "engine/fault.h"
+#include "engine/list_file.h"
+#include "tests/engine/study.h"
+
+namespace korventally::engine {
+namespace {
+
+class Limit {
+ public:
+  explicit Limit(rlim_t bytes) {
+    ::signal(SIGXFSZ, SIG_IGN);
+    ::getrlimit(RLIMIT_FSIZE, &before_);
+    const rlimit limit{bytes, before_.rlim_max};
+    ::setrlimit(RLIMIT_FSIZE, &limit);
+  }
+  ~Limit() { ::setrlimit(RLIMIT_FSIZE, &before_); }
+
+ private:
+  rlimit before_;
+};
+
+// Every length of disk from nothing to the whole list file: the verdict is there whenever it fits
+// at all, it is never "RUN COMPLETED", and the program says so every time.
+TEST(FullDisk, NeverCompletesAndSaysSoWhereverTheSpaceEnds) {
+  Study study;
+  ASSERT_EQ(study.Run().sentence, "");
+  const std::size_t whole = study.Read("out.lst").size();
+  const std::size_t control = study.Read("korventally.inp").size();
+  study.WriteControl();
+  const NativePath control_file = study.Path("korventally.inp");
+  ASSERT_GT(whole, control);
+  for (std::size_t bytes = 0; bytes < whole; bytes += bytes + 20 < whole ? 61 : 1) {
+    SCOPED_TRACE(bytes);
+    Result result;
+    {
+      const Limit limit(bytes);
+      result = RunCase(control_file);
+    }
+    EXPECT_NE(result.sentence.find("cannot be written: "), std::string::npos) << result.sentence;
+    const std::string list = study.Read("out.lst");
+    EXPECT_EQ(list.find("RUN COMPLETED"), std::string::npos);
+    const bool told = list.ends_with("\r\nRUN FAILED\r\n");
+    EXPECT_EQ(told, result.outcome == Outcome::kFailed);
+    if (bytes > 400) {
+      EXPECT_TRUE(told) << list;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace korventally::engine

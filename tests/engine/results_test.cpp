@@ -1,0 +1,262 @@
+// Whole runs, small enough to compute by hand: what the list file must say.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <string>
+#include <vector>
+
+#include "tests/engine/study.h"
+
+namespace korventally::engine {
+namespace {
+
+// Values in ug/m**3 that the files give in g/m**3.
+std::string Micro(const std::vector<double>& values) {
+  std::string row;
+  for (const double value : values) {
+    char text[32];
+    std::snprintf(text, sizeof text, "%.6E ", value * 1e-6);
+    row += text;
+  }
+  return row;
+}
+
+void WriteMicro(const Study& study, const char* name,
+                const std::vector<std::vector<double>>& hours) {
+  std::vector<std::string> rows;
+  for (const auto& hour : hours) rows.push_back(Micro(hour));
+  study.WriteHours(name, rows);
+}
+
+std::string CompletedList(const Study& study) {
+  const Result result = study.Run();
+  EXPECT_EQ(result.sentence, "");
+  EXPECT_EQ(study.LastLine(), "RUN COMPLETED");
+  return study.Read("out.lst");
+}
+
+#define EXPECT_SAYS(list, text) EXPECT_NE((list).find(text), std::string::npos) << (list)
+#define EXPECT_SILENT(list, text) EXPECT_EQ((list).find(text), std::string::npos) << (list)
+
+// Receptor A averages 10, 12; B averages 20, 9. FACILITY at A 3, 0.9; at B 1, 5. OTHER_1 the rest.
+Study& Fill(Study& study) {
+  WriteMicro(study, "all.con", {{9, 20}, {10, 21}, {11, 19}, {12, 9}, {12, 10}, {12, 8}});
+  WriteMicro(study, "group_2.con", {{3, 1}, {3, 2}, {3, 0}, {0.9, 5}, {0.9, 5}, {0.9, 5}});
+  WriteMicro(study, "group_3.con", {{7, 19}, {7, 19}, {7, 19}, {11.1, 4}, {11.1, 4}, {11.1, 4}});
+  return study;
+}
+
+TEST(Results, OfTwoReceptorsAndTwoBlocksByHand) {
+  Study study;
+  study.line(15) = "9.5";
+  const std::string list = CompletedList(Fill(study));
+  EXPECT_SAYS(list, "  2 averages of 3 hours, 2009-01-01 00 to 2009-01-01 05\r\n");
+  EXPECT_SAYS(
+      list,
+      "ALL_SOURCES    1st            20.0000  B                300.5    -400.0  2009-01-01 00");
+  EXPECT_SAYS(
+      list,
+      "               2nd            10.0000  A                100.0     200.0  2009-01-01 00");
+  EXPECT_SAYS(
+      list,
+      "FACILITY       1st             5.0000  B                300.5    -400.0  2009-01-01 03");
+  EXPECT_SAYS(
+      list,
+      "               2nd             1.0000  B                300.5    -400.0  2009-01-01 00");
+  EXPECT_SAYS(list, "Averages judged:              4\r\n");
+  EXPECT_SAYS(list, "Exceedances:                  3 (ALL_SOURCES above 9.5 ug/m**3)");
+  EXPECT_SAYS(list, "Receptors that exceed:        2 of 2\r\n");
+  EXPECT_SAYS(list, "Significant exceedances:      2 (FACILITY contributes 1 ug/m**3 or more)");
+  const std::vector<std::string> rows = {
+      "   1  B                300.5    -400.0  2009-01-01 00       20.0000 yes    1.000   5.0   "
+      "19.000  95.0",
+      "   2  A                100.0     200.0  2009-01-01 03       12.0000  no    0.900   7.5   "
+      "11.100  92.5",
+      "   3  A                100.0     200.0  2009-01-01 00       10.0000 yes    3.000  30.0    "
+      "7.000  70.0",
+  };
+  const std::vector<std::string> lines = study.List();
+  EXPECT_NE(std::search(lines.begin(), lines.end(), rows.begin(), rows.end()), lines.end()) << list;
+  EXPECT_SAYS(list, "WARNINGS\r\n  None.\r\n");
+}
+
+TEST(Results, LeaveOutTheHighestAverageOfEveryReceptor) {
+  Study study;
+  study.line(15) = "9.5";
+  study.line(21) = "T";
+  const std::string list = CompletedList(Fill(study));
+  EXPECT_SAYS(list, "Averages judged:              2\r\n");
+  EXPECT_SAYS(list, "Exceedances:                  1 (");
+  EXPECT_SAYS(list,
+              "\r\n  A                100.0     200.0  2009-01-01 03     12.0000\r\n"
+              "  B                300.5    -400.0  2009-01-01 00     20.0000\r\n");
+  EXPECT_SAYS(list, "   1  A                100.0     200.0  2009-01-01 00       10.0000 yes");
+}
+
+TEST(Results, AddTheBackgroundToTheFirstGroupOnly) {
+  Study study;
+  study.line(13) = "2.5";
+  study.line(15) = "22";
+  const std::string list = CompletedList(Fill(study));
+  EXPECT_SAYS(list, "ALL_SOURCES    1st            22.5000");
+  EXPECT_SAYS(list, "FACILITY       1st             5.0000");
+  EXPECT_SAYS(list, "       22.5000 yes    1.000   4.4   19.000  84.4");
+  EXPECT_SAYS(list, "The background of 2.5 ug/m**3 is part of every value of ALL_SOURCES below.");
+  EXPECT_SAYS(list, "WARNINGS\r\n  None.\r\n");
+}
+
+TEST(Results, TakeValuesAtTheLimitsForWhatTheyAre) {
+  // 0.1 + 0.2 and the like: the hours average to the limits only up to the last bit.
+  Study study;
+  WriteMicro(study, "all.con", std::vector<std::vector<double>>(6, {9.1, 9.2}));
+  WriteMicro(study, "group_2.con", std::vector<std::vector<double>>(6, {0.3, 0.7}));
+  WriteMicro(study, "group_3.con", std::vector<std::vector<double>>(6, {1, 1}));
+  study.line(15) = "9.1";
+  study.line(19) = "0.7";
+  const std::string list = CompletedList(study);
+  EXPECT_SAYS(list, "Exceedances:                  2 (");
+  EXPECT_SAYS(list, "Receptors that exceed:        1 of 2");
+  EXPECT_SAYS(list, "Significant exceedances:      2 (");
+}
+
+TEST(Results, OfEqualValuesTheEarliestAndFirstCounts) {
+  Study study;
+  const std::string list = CompletedList(study);
+  EXPECT_SAYS(
+      list,
+      "ALL_SOURCES    1st            10.0000  A                100.0     200.0  2009-01-01 00");
+  EXPECT_SAYS(
+      list,
+      "               2nd            10.0000  A                100.0     200.0  2009-01-01 03");
+  EXPECT_SAYS(list, "   1  A                100.0     200.0  2009-01-01 00");
+  EXPECT_SAYS(list, "   2  B                300.5    -400.0  2009-01-01 00");
+}
+
+TEST(Results, SayWhichHoursAreNotUsed) {
+  Study study;
+  study.line(14) = "4";
+  EXPECT_SAYS(CompletedList(study),
+              "The last 2 hours of the run fill no averaging period and are not used.");
+  study.line(14) = "5";
+  EXPECT_SAYS(CompletedList(study),
+              "The last 1 hour of the run fill no averaging period and is not");
+}
+
+TEST(Results, OfAnAnnualRunAreOneAverageOverAllOfIt) {
+  for (const char* hours : {"8760", "8784"}) {
+    Study study;
+    study.line(14) = hours;
+    study.line(15) = "14";
+    const std::string list = CompletedList(Fill(study));
+    EXPECT_SAYS(list, "1 average of 6 hours, 2009-01-01 00 to 2009-01-01 05 (annual)");
+    EXPECT_SAYS(list, "ALL_SOURCES    1st            14.5000  B");
+    EXPECT_SILENT(list, "2nd     ");
+    EXPECT_SAYS(list, "Exceedances:                  1 (");
+    EXPECT_SAYS(list, "The annual average covers 6 hours, which is less than a year.");
+  }
+}
+
+TEST(Results, WarnWhenRankOneLeavesNothingToJudge) {
+  Study study;
+  study.line(14) = "6";
+  study.line(21) = "T";
+  const std::string list = CompletedList(study);
+  EXPECT_SAYS(list, "Averages judged:              0\r\n");
+  EXPECT_SAYS(list, "EXCEEDANCES, the largest first\r\n  None.\r\n");
+  EXPECT_SAYS(list,
+              "Every receptor has one average only, and rank 1 is excluded: nothing was judged.");
+}
+
+TEST(Results, WarnWhenThePartsAreMoreThanTheWhole) {
+  Study study;
+  Fill(study);
+  WriteMicro(study, "group_3.con", std::vector<std::vector<double>>(6, {8.5, 19.01}));
+  const std::string list = CompletedList(study);
+  // Block 1: A 3 + 8.5 against 10, B 1 + 19.01 against 20 (within rounding); block 2: A below, B
+  // above.
+  EXPECT_SAYS(list,
+              "In 2 averages the groups FACILITY and OTHER together give more than ALL_SOURCES");
+  EXPECT_SAYS(
+      list,
+      "The worst case: 24.0100 against 9.0000 ug/m**3 at receptor B,\r\n  from 2009-01-01 03.");
+}
+
+TEST(Results, RefuseRunsThatHoldNoAverage) {
+  const struct {
+    const char *start, *run, *averaging, *says;
+  } rows[] = {
+      {"2009,01,01,00", "23", "24",
+       "The run length of 23 hours is shorter than one averaging period of 24 hours."},
+      {"2009,01,01,00", "8784", "8784",
+       "The run length of 8,784 hours is longer than the year that begins at 2009-01-01 00 (8,760 "
+       "hours); an annual average covers one year at most."},
+      {"2009,01,01,00", "8784", "8770",
+       "The averaging period of 8,770 hours is neither an annual one (8760 or 8784) nor shorter "
+       "than a year."},
+  };
+  for (const auto& row : rows) {
+    Study study;
+    study.line(3) = row.start;
+    study.line(4) = row.run;
+    study.line(14) = row.averaging;
+    EXPECT_EQ(study.Run().sentence, row.says);
+    EXPECT_EQ(study.LastLine(), "RUN FAILED");
+  }
+}
+
+TEST(Results, FitTheWidthForAnyNumberOfGroupsAndNumbers) {
+  for (const std::size_t groups : {2u, 5u, 6u, 50u}) {
+    Study study(groups);
+    study.Write("receptors.dat", "-123456.7 4567890.1 TWELVE_CHARS\n1e9 -1e9 B\n");
+    WriteMicro(study, "all.con", std::vector<std::vector<double>>(6, {1e13, 123456.789}));
+    for (std::size_t i = 3; i < groups; ++i) study.line(7 + 2 * i) = "THIRTEEN_WIDE";
+    CompletedList(study);
+    std::size_t widest = 0, cells = 0;
+    for (const std::string& line : study.List()) {
+      const bool path = line.find(".con") != line.npos || line.find(".dat") != line.npos;
+      if (!path) widest = std::max(widest, line.size());
+      if (line.starts_with("---")) cells = line.size();
+    }
+    EXPECT_LE(widest, 132u);
+    if (groups == 5) {
+      EXPECT_EQ(cells, 131u);
+    }
+    EXPECT_SAYS(study.Read("out.lst"), "1.0000E+13 yes");
+  }
+}
+
+TEST(Results, ShowFiftyExceedancesAndCountTheRest) {
+  for (const std::size_t hours : {25u, 26u, 40u}) {
+    Study study;
+    study.line(4) = std::to_string(hours);
+    study.line(14) = "1";
+    std::vector<std::vector<double>> rows;
+    for (std::size_t i = 0; i < hours; ++i) rows.push_back({100.0 + double(i), 200.0 + double(i)});
+    WriteMicro(study, "all.con", rows);
+    for (const char* name : {"group_2.con", "group_3.con"}) WriteMicro(study, name, rows);
+    const std::string list = CompletedList(study);
+    EXPECT_SAYS(list, "Exceedances:                  " + std::to_string(2 * hours) + " (");
+    EXPECT_SAYS(list, "\r\n  50  A");
+    EXPECT_SILENT(list, "\r\n  51  ");
+    if (hours == 25) {
+      EXPECT_SILENT(list, " more, all of them");
+    } else {
+      EXPECT_SAYS(list,
+                  "  and " + std::to_string(2 * hours - 50) + " exceedances more, all of them");
+    }
+  }
+}
+
+TEST(Results, UseTheHoursOfTheRunOutOfLongerFiles) {
+  Study study;
+  study.line(3) = "2009,01,01,03";
+  study.line(4) = "3";
+  const std::string list = CompletedList(Fill(study));
+  EXPECT_SAYS(list, "1 average of 3 hours, 2009-01-01 03 to 2009-01-01 05");
+  EXPECT_SAYS(list, "ALL_SOURCES    1st            12.0000  A");
+  EXPECT_SAYS(list, "6 hours (2009-01-01 00 to 2009-01-01 05), 2 receptors");
+}
+
+}  // namespace
+}  // namespace korventally::engine

@@ -1,0 +1,90 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "tests/engine/study.h"
+
+namespace korventally::engine {
+namespace {
+
+TEST(Run, RepeatsTheCaseAndEndsWithTheVerdict) {
+  Study study;
+  EXPECT_EQ(study.Run().outcome, Outcome::kCompleted);
+  const std::string list = study.Read("out.lst");
+  EXPECT_NE(list.find("Species:                      SO2\r\n"), std::string::npos) << list;
+  for (const char* name : {"all.con", "group_2.con", "group_3.con", "receptors.dat"}) {
+    EXPECT_NE(list.find(study.Text(name)), std::string::npos) << name;
+  }
+  EXPECT_TRUE(list.ends_with("\r\nRUN COMPLETED\r\n"));
+}
+
+TEST(Run, ReplacesAnOldListFileAndItsVerdict) {
+  Study study;
+  study.Write("out.lst", std::string(100000, 'x') + "\r\nRUN COMPLETED\r\n");
+  study.line(12) = "0";
+  EXPECT_EQ(study.Run().outcome, Outcome::kFailed);
+  const std::string list = study.Read("out.lst");
+  EXPECT_EQ(list.find("xx"), std::string::npos);
+  EXPECT_EQ(list.find("RUN COMPLETED"), std::string::npos);
+  EXPECT_EQ(study.LastLine(), "RUN FAILED");
+}
+
+TEST(Run, NamesTheControlLineOfAFileThatCannotBeOpened) {
+  for (const std::size_t line : {6u, 8u, 10u, 17u}) {
+    for (const bool folder : {false, true}) {
+      Study study;
+      const std::string path = study.line(line);
+      std::filesystem::remove(PathFromText(path));
+      if (folder) std::filesystem::create_directory(PathFromText(path));
+      const Result result = study.Run();
+      EXPECT_EQ(result.outcome, Outcome::kFailed);
+      const std::string start = "Line " + std::to_string(line) + " of the control file: The file " +
+                                path + " cannot be opened: ";
+      EXPECT_EQ(result.sentence.find(start), 0u) << result.sentence;
+      EXPECT_EQ(study.LastLine(), "RUN FAILED");
+    }
+  }
+}
+
+TEST(Run, NeverEmptiesAFileThatItWasToldToRead) {
+  for (const std::size_t line : {6u, 8u, 17u}) {
+    Study study;
+    study.line(1) = study.line(line);
+    const std::string before = study.Read("all.con");
+    const Result result = study.Run();
+    EXPECT_EQ(result.outcome, Outcome::kNoListFile);
+    EXPECT_NE(result.sentence.find("named in line " + std::to_string(line)), std::string::npos)
+        << result.sentence;
+    EXPECT_EQ(study.Read("all.con"), before);
+  }
+  Study study;
+  study.line(1) = study.Text("korventally.inp");
+  EXPECT_NE(study.Run().sentence.find("is also the control file"), std::string::npos);
+  EXPECT_NE(study.Read("korventally.inp"), "");
+}
+
+TEST(Run, SeesThroughOtherSpellingsOfTheSameFile) {
+  Study study;
+  std::filesystem::create_directory(study.Path("sub"));
+  study.line(1) = TextFromPath(study.Path("sub") / ".." / "group_2.con");
+  EXPECT_EQ(study.Run().outcome, Outcome::kNoListFile);
+  EXPECT_NE(study.Read("group_2.con"), "");
+}
+
+TEST(Run, SaysWhenThereIsNoPlaceForAVerdict) {
+  Study study;
+  study.line(1) = TextFromPath(study.Path("no such folder") / "out.lst");
+  const Result result = study.Run();
+  EXPECT_EQ(result.outcome, Outcome::kNoListFile);
+  EXPECT_NE(result.sentence.find("cannot be created: "), std::string::npos) << result.sentence;
+  EXPECT_NE(RunCase(study.Path("missing.inp")).sentence.find("cannot be opened: "),
+            std::string::npos);
+  study.Write("empty.inp", "");
+  EXPECT_EQ(RunCase(study.Path("empty.inp")).sentence, "The control file is empty.");
+}
+
+}  // namespace
+}  // namespace korventally::engine

@@ -1,0 +1,105 @@
+#include "tests/engine/study.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <fstream>
+#include <iterator>
+#include <random>
+#include <sstream>
+
+#include "engine/calendar.h"
+
+namespace korventally::engine {
+
+namespace {
+
+std::filesystem::path FreshFolder() {
+  static std::random_device device;
+  const auto* const test = testing::UnitTest::GetInstance()->current_test_info();
+  const std::string name = std::string(test->name()).substr(0, 40);
+  const auto base = std::filesystem::temp_directory_path();
+  for (;;) {
+    std::string leaf = "korventally " + name + " " + std::to_string(device());
+    for (char& c : leaf) c = c == '/' ? '_' : c;
+    if (std::filesystem::create_directory(base / leaf)) return base / leaf;
+  }
+}
+
+std::string ConcentrationName(std::size_t group) {
+  return group == 0 ? "all.con" : "group_" + std::to_string(group + 1) + ".con";
+}
+
+}  // namespace
+
+Study::Study(std::size_t groups) : folder_(FreshFolder()), groups_(groups) {
+  control = {Text("out.lst"), "SO2", "2009,01,01,00", "6", std::to_string(groups)};
+  for (std::size_t i = 0; i < groups; ++i) {
+    const std::string name = ConcentrationName(i);
+    const std::string value = i == 0 ? "1.00000E-05" : "2.00000E-06";
+    WriteHours(name, std::vector<std::string>(6, value + " " + value));
+    control.push_back(Text(name));
+    control.push_back(i == 0   ? "ALL_SOURCES"
+                      : i == 1 ? "FACILITY"
+                               : "OTHER_" + std::to_string(i - 1));
+  }
+  for (const char* value : {"1000000.0,0.0", "0", "3", "8.0", "1"}) control.emplace_back(value);
+  control.push_back(Text("receptors.dat"));
+  for (const char* value : {"1", "1.0", "2", "F", "0"}) control.emplace_back(value);
+  Write("receptors.dat", "# X Y ID\n100.0 200.0 A\n300.5 -400 B\n");
+}
+
+Study::~Study() {
+  std::error_code ignored;
+  std::filesystem::remove_all(folder_, ignored);
+}
+
+std::string Study::Text(std::string_view name) const { return TextFromPath(Path(name)); }
+
+void Study::Write(std::string_view name, std::string_view bytes) const {
+  std::ofstream(Path(name), std::ios::binary) << bytes;
+}
+
+std::string Study::Read(std::string_view name) const {
+  std::ifstream file(Path(name), std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+void Study::WriteHours(std::string_view name, const std::vector<std::string>& hours) const {
+  std::string text = "# hourly values\n";
+  const Hour start = *HourFromDate(2009, 1, 1, 0);
+  for (std::size_t i = 0; i < hours.size(); ++i) {
+    std::string date = DateText(start + static_cast<Hour>(i));
+    for (char& c : date) c = c == '-' ? ' ' : c;
+    text += date + " " + hours[i] + "\n";
+  }
+  Write(name, text);
+}
+
+void Study::WriteControl() const {
+  std::string text;
+  for (const std::string& value : control) text += prefix + value + line_end;
+  Write("korventally.inp", text);
+}
+
+Result Study::Run() const {
+  WriteControl();
+  return korventally::engine::RunCase(Path("korventally.inp"));
+}
+
+std::vector<std::string> Study::List() const {
+  std::istringstream text(Read("out.lst"));
+  std::vector<std::string> lines;
+  for (std::string line; std::getline(text, line);) {
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    lines.push_back(line);
+  }
+  return lines;
+}
+
+std::string Study::LastLine() const {
+  const std::vector<std::string> lines = List();
+  return lines.empty() ? "" : lines.back();
+}
+
+}  // namespace korventally::engine
