@@ -1,0 +1,26 @@
+#include "platform/win32/ui/system_function.h"
+#include "platform/win32/ui/system_headers.h"
+#include "wizard/program.h"
+
+namespace {
+
+/// Libraries come from the system's folder alone, so that nobody can slip one in beside the
+/// program. Nothing may be loaded before this.
+void loadFromSystemFolderOnly() {
+  using SetDirectories = BOOL(WINAPI*)(DWORD);
+  const auto set =
+      korventally::win32::systemFunction<SetDirectories>(L"kernel32", "SetDefaultDllDirectories");
+  if (set) set(LOAD_LIBRARY_SEARCH_SYSTEM32);
+}
+
+}  // namespace
+
+int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR, int) {
+  loadFromSystemFolderOnly();
+  const INITCOMMONCONTROLSEX classes{sizeof classes, ICC_STANDARD_CLASSES | ICC_WIN95_CLASSES};
+  InitCommonControlsEx(&classes);
+  const HRESULT ole = OleInitialize(nullptr);  // the folder browser and accessible names need it
+  const int exitCode = korventally::runProgram();
+  if (SUCCEEDED(ole)) OleUninitialize();
+  return exitCode;
+}

@@ -1,0 +1,53 @@
+#include "platform/win32/ui/accessible_names.h"
+
+#include <iterator>
+
+#include "platform/win32/system/text.h"
+
+namespace korventally::win32 {
+namespace {
+
+constexpr MSAAPROPID kLiveSettingProperty{
+    0xc12bcd8e, 0x2a8e, 0x4950, {0x8a, 0xe7, 0x36, 0x25, 0x11, 0x1d, 0x58, 0xeb}};
+constexpr LONG kAssertive = 2;
+constexpr DWORD kLiveRegionChanged = 0x8019;
+constexpr DWORD kClient = static_cast<DWORD>(OBJID_CLIENT);
+
+}  // namespace
+
+AccessibleNames::AccessibleNames() {
+  CoCreateInstance(CLSID_AccPropServices, nullptr, CLSCTX_INPROC_SERVER, IID_IAccPropServices,
+                   reinterpret_cast<void**>(&services_));
+}
+
+AccessibleNames::~AccessibleNames() {
+  if (services_ == nullptr) return;
+  for (HWND control : named_) forget(control);
+  services_->Release();
+}
+
+void AccessibleNames::add(HWND control, const std::string& name) {
+  if (services_ == nullptr || name.empty()) return;
+  services_->SetHwndPropStr(control, kClient, CHILDID_SELF, PROPID_ACC_NAME, toWide(name).c_str());
+  named_.push_back(control);
+}
+
+void AccessibleNames::announce(HWND control) {
+  if (services_ != nullptr) {
+    VARIANT live;
+    live.vt = VT_I4;
+    live.lVal = kAssertive;
+    services_->SetHwndProp(control, kClient, CHILDID_SELF, kLiveSettingProperty, live);
+    named_.push_back(control);
+  }
+  NotifyWinEvent(kLiveRegionChanged, control, OBJID_CLIENT, CHILDID_SELF);
+  NotifyWinEvent(EVENT_SYSTEM_ALERT, control, OBJID_CLIENT, CHILDID_SELF);
+}
+
+void AccessibleNames::forget(HWND control) {
+  const MSAAPROPID properties[]{PROPID_ACC_NAME, kLiveSettingProperty};
+  services_->ClearHwndProps(control, kClient, CHILDID_SELF, properties,
+                            static_cast<int>(std::size(properties)));
+}
+
+}  // namespace korventally::win32

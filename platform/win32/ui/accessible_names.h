@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/win32/ui/system_headers.h"
+
+namespace korventally::win32 {
+
+/// What assistive programs read of the controls beyond their captions. Without the system's help
+/// they read the captions alone.
+class AccessibleNames {
+ public:
+  AccessibleNames();
+  AccessibleNames(const AccessibleNames&) = delete;
+  AccessibleNames& operator=(const AccessibleNames&) = delete;
+  ~AccessibleNames();
+
+  void add(HWND control, const std::string& name);
+  /// Has the control's text read out once, without the focus going there.
+  void announce(HWND control);
+
+ private:
+  void forget(HWND control);
+
+  IAccPropServices* services_ = nullptr;
+  std::vector<HWND> named_;
+};
+
+}  // namespace korventally::win32

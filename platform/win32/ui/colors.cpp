@@ -1,0 +1,50 @@
+#include "platform/win32/ui/colors.h"
+
+namespace korventally::win32 {
+namespace {
+
+constexpr OleColor kSystemColor = 0x80000000;
+
+COLORREF asStored(OleColor color) {
+  if (color & kSystemColor) return GetSysColor(static_cast<int>(color & 0xFF));
+  return static_cast<COLORREF>(color);
+}
+
+/// Whether the ground says something, as the yellow of a wrong field does.
+bool marks(OleColor ground) { return !(ground & kSystemColor) && ground != colors::kWhite; }
+
+}  // namespace
+
+bool highContrast() {
+  HIGHCONTRASTW contrast{};
+  contrast.cbSize = sizeof contrast;
+  return SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof contrast, &contrast, 0) &&
+         (contrast.dwFlags & HCF_HIGHCONTRASTON);
+}
+
+COLORREF textColor(OleColor text, OleColor ground, bool usable) {
+  if (!usable) return GetSysColor(COLOR_GRAYTEXT);
+  if (!highContrast()) return asStored(text);
+  if (marks(ground)) return GetSysColor(COLOR_HIGHLIGHTTEXT);
+  return GetSysColor(ground == colors::kButtonFace ? COLOR_BTNTEXT : COLOR_WINDOWTEXT);
+}
+
+COLORREF groundColor(OleColor ground) {
+  if (!highContrast()) return asStored(ground);
+  if (marks(ground)) return GetSysColor(COLOR_HIGHLIGHT);
+  return ground == colors::kWhite ? GetSysColor(COLOR_WINDOW) : asStored(ground);
+}
+
+COLORREF groupBorderColor() {
+  return highContrast() ? GetSysColor(COLOR_WINDOWTEXT) : RGB(0xD0, 0xD0, 0xD0);
+}
+
+HBRUSH applyColors(HDC dc, COLORREF text, COLORREF ground) {
+  SetTextColor(dc, text);
+  SetBkColor(dc, ground);
+  // The brush of the device context takes any colour and belongs to nobody.
+  SetDCBrushColor(dc, ground);
+  return static_cast<HBRUSH>(GetStockObject(DC_BRUSH));
+}
+
+}  // namespace korventally::win32

@@ -1,0 +1,81 @@
+#include "platform/events.h"
+
+#include <windows.h>
+
+#include <optional>
+
+#include "platform/later.h"
+#include "platform/win32/ui/keyboard.h"
+#include "platform/window.h"
+
+namespace korventally {
+namespace {
+
+/// A program that floods this one with messages must not keep it from its work.
+constexpr int kMostAtOnce = 200;
+
+/// Handles messages, and posts a request to quit again when it goes, so that the loops around it
+/// end too.
+class MessagePump {
+ public:
+  MessagePump() = default;
+  MessagePump(const MessagePump&) = delete;
+  MessagePump& operator=(const MessagePump&) = delete;
+  ~MessagePump() {
+    if (quit_) PostQuitMessage(*quit_);
+  }
+
+  /// Handles the next message; false when there is none.
+  bool handleNext() {
+    MSG message;
+    if (!PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) return false;
+    if (message.message == WM_QUIT) {
+      quit_ = static_cast<int>(message.wParam);
+      Window::unloadAll();
+    } else if (!win32::handleKey(message)) {
+      TranslateMessage(&message);
+      DispatchMessageW(&message);
+    }
+    return true;
+  }
+
+ private:
+  std::optional<int> quit_;
+};
+
+void sleepUntilEvent() {
+  const DWORD longest = untilNextDue().value_or(INFINITE);
+  MsgWaitForMultipleObjectsEx(0, nullptr, longest, QS_ALLINPUT, MWMO_INPUTAVAILABLE);
+}
+
+}  // namespace
+
+std::uint32_t tickCount() { return GetTickCount(); }
+
+void processPendingEvents() {
+  {
+    MessagePump pump;
+    runDue();
+    for (int count = 0; count < kMostAtOnce && pump.handleNext(); ++count) continue;
+  }
+  SwitchToThread();
+}
+
+void runEventsWhile(const std::function<bool()>& goOn) {
+  MessagePump pump;
+  while (goOn()) {
+    runDue();
+    if (!goOn()) return;
+    if (!pump.handleNext()) sleepUntilEvent();
+  }
+}
+
+BelowNormalPriority::BelowNormalPriority() {
+  SetThreadPriority(GetCurrentThread(), THREAD_PRIORITY_BELOW_NORMAL);
+}
+
+BelowNormalPriority::~BelowNormalPriority() {
+  SetThreadPriority(GetCurrentThread(), THREAD_PRIORITY_NORMAL);
+}
+
+}  // namespace korventally

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <windows.h>
+
+#include <map>
+#include <memory>
+#include <optional>
+
+#include "platform/container.h"
+#include "platform/win32/ui/accessible_names.h"
+#include "platform/win32/ui/native_control.h"
+#include "platform/win32/ui/scroller.h"
+#include "platform/win32/ui/stage.h"
+#include "platform/win32/ui/tool_tips.h"
+#include "platform/window.h"
+#include "platform/window_view.h"
+
+namespace korventally::win32 {
+
+/// An open window on the screen, with all its controls.
+class NativeWindow : public WindowView {
+ public:
+  NativeWindow(Window& window, HWND owner);
+  ~NativeWindow() override;
+
+  /// The view of an open window, or none.
+  static NativeWindow* of(const Window& window);
+  /// The view that a window of the system, or a child of it, belongs to; none for a foreign one.
+  static NativeWindow* of(HWND any);
+
+  HWND handle() const { return handle_; }
+  Window& model() const { return window_; }
+  bool closed() const { return stage_.closed(); }
+  HWND handleOf(const Control& control) const;
+  /// From now on the focus is to be seen, since the person moves it by keyboard.
+  void showFocus();
+
+  void refresh(const Control& control, Aspect aspect) override;
+  void setFocus(const Control& control) override;
+  void announce(const Control& control) override;
+  void close() override;
+
+ private:
+  static LRESULT CALLBACK procedure(HWND handle, UINT message, WPARAM first, LPARAM second);
+  HWND createFrame(HWND owner);
+  void createControls(const Container& container, HWND parent);
+  std::unique_ptr<NativeControl> createControl(Control& control, HWND parent);
+
+  LRESULT onMessage(UINT message, WPARAM first, LPARAM second);
+  std::optional<LRESULT> handleInput(UINT message, WPARAM first, LPARAM second);
+  std::optional<LRESULT> handleAppearance(UINT message, WPARAM first, LPARAM second);
+  std::optional<LRESULT> handleSurroundings(UINT message, WPARAM first, LPARAM second);
+  void paintGround(HDC dc);
+  /// Puts the keyboard where the model has it.
+  void restoreFocus();
+  /// Gives the window the size of its contents, or of the work area if that is smaller, and lays
+  /// the controls out. Centred, or else from the top-left corner as it is.
+  void fit(bool centre);
+  RECT workArea() const;
+  void placeControls();
+
+  Window& window_;
+  HWND owner_;
+  HWND handle_;
+  Stage stage_;
+  Scroller scroller_;
+  ToolTips toolTips_;
+  AccessibleNames names_;
+  std::map<const Control*, std::unique_ptr<NativeControl>> controls_;
+  int lastId_;
+};
+
+}  // namespace korventally::win32

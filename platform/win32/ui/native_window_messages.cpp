@@ -1,0 +1,94 @@
+#include "platform/win32/ui/colors.h"
+#include "platform/win32/ui/dpi.h"
+#include "platform/win32/ui/menu_bar.h"
+#include "platform/win32/ui/native_window.h"
+#include "platform/win32/ui/session.h"
+
+namespace korventally::win32 {
+
+LRESULT CALLBACK NativeWindow::procedure(HWND handle, UINT message, WPARAM first, LPARAM second) {
+  auto* self = reinterpret_cast<NativeWindow*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
+  // While the window is being made or destroyed there is nobody to tell.
+  if (self == nullptr || of(handle) != self) return DefWindowProcW(handle, message, first, second);
+  return self->onMessage(message, first, second);
+}
+
+LRESULT NativeWindow::onMessage(UINT message, WPARAM first, LPARAM second) {
+  if (const auto answer = NativeControl::reflect(message, first, second)) return *answer;
+  if (const auto answer = handleAppearance(message, first, second)) return *answer;
+  if (closed()) return DefWindowProcW(handle_, message, first, second);
+  if (const auto answer = handleInput(message, first, second)) return *answer;
+  if (const auto answer = handleSurroundings(message, first, second)) return *answer;
+  if (const auto answer = handleSessionEnd(handle_, message, first)) return *answer;
+  return DefWindowProcW(handle_, message, first, second);
+}
+
+std::optional<LRESULT> NativeWindow::handleInput(UINT message, WPARAM first, LPARAM second) {
+  switch (message) {
+    case WM_COMMAND:
+      if (second == 0) chooseMenuEntry(window_, LOWORD(first));
+      return 0;
+    case WM_CLOSE:
+      window_.requestClose();
+      return 0;
+    case WM_SETFOCUS:
+      restoreFocus();
+      return 0;
+    case kFocusArrived: {
+      RECT area;
+      GetWindowRect(reinterpret_cast<HWND>(second), &area);
+      MapWindowPoints(nullptr, handle_, reinterpret_cast<POINT*>(&area), 2);
+      scroller_.reveal(area);
+      return 0;
+    }
+    default:
+      if (scroller_.handle(message, first)) return 0;
+      return std::nullopt;
+  }
+}
+
+std::optional<LRESULT> NativeWindow::handleAppearance(UINT message, WPARAM first, LPARAM) {
+  switch (message) {
+    case WM_ERASEBKGND:
+      paintGround(reinterpret_cast<HDC>(first));
+      return 1;
+    case WM_PRINTCLIENT:
+      paintGround(reinterpret_cast<HDC>(first));
+      return 0;
+    default:
+      return std::nullopt;
+  }
+}
+
+void NativeWindow::paintGround(HDC dc) {
+  RECT area;
+  GetClientRect(handle_, &area);
+  fill(dc, area, groundColor(window_.backColor()));
+}
+
+std::optional<LRESULT> NativeWindow::handleSurroundings(UINT message, WPARAM first, LPARAM second) {
+  switch (message) {
+    case WM_DPICHANGED: {
+      const auto& suggested = *reinterpret_cast<const RECT*>(second);
+      stage_.setDpi(LOWORD(first));
+      SetWindowPos(handle_, nullptr, suggested.left, suggested.top, 0, 0,
+                   SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+      fit(false);
+      return 0;
+    }
+    case WM_DISPLAYCHANGE:
+      fit(false);
+      return std::nullopt;
+    case WM_SETTINGCHANGE:
+      if (first == SPI_SETWORKAREA) fit(false);
+      [[fallthrough]];
+    case WM_SYSCOLORCHANGE:
+    case WM_THEMECHANGED:
+      RedrawWindow(handle_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+      return std::nullopt;
+    default:
+      return std::nullopt;
+  }
+}
+
+}  // namespace korventally::win32

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <string>
+
+#include "platform/win32/ui/native_control.h"
+
+namespace korventally::win32 {
+
+/// A control that paints itself, because the system's own look has no room for the model's colours
+/// under a visual style. In all else it is the system's control.
+class PaintedControl : public NativeControl {
+ protected:
+  using NativeControl::NativeControl;
+
+  /// Paints the whole control, ground included; the font is selected, text has no ground.
+  virtual void paint(HDC dc, const RECT& area) = 0;
+
+  LRESULT onMessage(UINT message, WPARAM first, LPARAM second) override;
+  std::optional<LRESULT> notify(const NMHDR& header) override;
+
+  /// What the container shows behind the control.
+  void paintGround(HDC dc, const RECT& area);
+  /// The text in the font's own characters.
+  std::wstring caption() const;
+  SIZE captionSize(HDC dc) const;
+  /// Whether to show that the control has the focus.
+  bool showsFocus() const;
+
+ private:
+  void paintOn(HDC dc);
+  void paintBuffered();
+};
+
+}  // namespace korventally::win32

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <windows.h>
+
+#include <utility>
+#include <vector>
+
+#include "platform/font.h"
+#include "platform/win32/ui/gdi.h"
+
+namespace korventally::win32 {
+
+/// What the controls of one open window share: its resolution, its fonts, and whether what the
+/// person does still counts.
+class Stage {
+ public:
+  explicit Stage(int dpi = USER_DEFAULT_SCREEN_DPI) : dpi_(dpi) {}
+
+  int dpi() const { return dpi_; }
+  /// Forgets the fonts of the old resolution: give every control its font anew.
+  void setDpi(int dpi);
+
+  int fromTwips(int twips) const;
+  /// Pixels at 96 dpi, in those of this window.
+  int scaled(int pixels) const { return MulDiv(pixels, dpi_, USER_DEFAULT_SCREEN_DPI); }
+  HFONT font(const Font& font);
+
+  /// Once the window has closed, messages that were under way are no doings of the person's.
+  bool closed() const { return closed_; }
+  void close() { closed_ = true; }
+
+ private:
+  int dpi_;
+  bool closed_ = false;
+  std::vector<std::pair<Font, GdiObject<HFONT>>> fonts_;
+};
+
+}  // namespace korventally::win32

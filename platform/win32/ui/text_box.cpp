@@ -1,0 +1,124 @@
+#include "platform/text_box.h"
+
+#include <algorithm>
+
+#include "platform/win32/system/text.h"
+#include "platform/win32/ui/clipboard.h"
+#include "platform/win32/ui/native_control.h"
+#include "platform/win32/ui/system_headers.h"
+#include "platform/window.h"
+
+namespace korventally::win32 {
+namespace {
+
+constexpr WPARAM kControlA = 1;
+constexpr WPARAM kDelete = 127;
+
+std::wstring textOf(HWND window) {
+  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
+  text.resize(
+      static_cast<std::size_t>(GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
+  return text;
+}
+
+/// The first of the files that were dropped.
+std::wstring takeDroppedFile(HDROP drop) {
+  std::wstring path(DragQueryFileW(drop, 0, nullptr, 0) + 1, L'\0');
+  path.resize(DragQueryFileW(drop, 0, path.data(), static_cast<UINT>(path.size())));
+  DragFinish(drop);
+  return path;
+}
+
+class NativeTextBox : public NativeControl {
+ public:
+  NativeTextBox(TextBox& model, const Site& site)
+      : NativeControl(model, site, L"EDIT", ES_AUTOHSCROLL | WS_TABSTOP, WS_EX_CLIENTEDGE),
+        box_(model) {
+    SendMessageW(handle(), EM_LIMITTEXT, static_cast<WPARAM>(model.limit()), 0);
+    DragAcceptFiles(handle(), model.takesPath());
+  }
+
+  void refresh(Aspect aspect) override {
+    if (aspect == Aspect::kSelection) {
+      SendMessageW(handle(), EM_SETSEL, 0, -1);
+    } else {
+      fromCode_ = true;
+      NativeControl::refresh(aspect);
+      fromCode_ = false;
+    }
+  }
+
+ protected:
+  LRESULT onMessage(UINT message, WPARAM first, LPARAM second) override {
+    switch (message) {
+      case WM_CHAR:
+        if (!takesCharacter(first)) return 0;
+        break;
+      case WM_PASTE:
+        if (box_.takesPath() && pasteWithoutQuotes()) return 0;
+        break;
+      case WM_DROPFILES:
+        drop(takeDroppedFile(reinterpret_cast<HDROP>(first)));
+        return 0;
+    }
+    return NativeControl::onMessage(message, first, second);
+  }
+
+  void command(WORD code) override {
+    if (code == EN_CHANGE && !fromCode_) box_.edited(fromWide(textOf(handle())));
+  }
+
+ private:
+  bool takesCharacter(WPARAM code) {
+    if (stage().closed()) return false;
+    if (code == kControlA) SendMessageW(handle(), EM_SETSEL, 0, -1);
+    // Ctrl+Backspace arrives as a character that no font can show.
+    if (code == kControlA || code == kDelete) return false;
+    return box_.acceptsKey(static_cast<std::int16_t>(code));
+  }
+
+  bool pasteWithoutQuotes() {
+    const std::wstring text = clipboardText(handle());
+    const std::size_t close = text.find_last_not_of(L"\r\n \t");
+    if (text.empty() || text.front() != L'"' || close == 0 || close == std::wstring::npos ||
+        text[close] != L'"') {
+      return false;
+    }
+    replaceSelection(text.substr(1, close - 1));
+    return true;
+  }
+
+  void drop(const std::wstring& path) {
+    if (stage().closed() || !box_.usable() || path.empty()) return;
+    box_.window().setFocus(box_);
+    SendMessageW(handle(), EM_SETSEL, 0, -1);
+    replaceSelection(path);
+  }
+
+  /// As if the person had typed it: on one line and within the limit.
+  void replaceSelection(std::wstring text) {
+    text.resize(std::min(text.find_first_of(L"\r\n"), text.size()));
+    if (box_.limit() > 0) text.resize(std::min(text.size(), room()));
+    SendMessageW(handle(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(text.c_str()));
+  }
+
+  std::size_t room() const {
+    DWORD start = 0;
+    DWORD end = 0;
+    SendMessageW(handle(), EM_GETSEL, reinterpret_cast<WPARAM>(&start),
+                 reinterpret_cast<LPARAM>(&end));
+    const int kept = GetWindowTextLengthW(handle()) - static_cast<int>(end - start);
+    return static_cast<std::size_t>(std::max(0, box_.limit() - kept));
+  }
+
+  TextBox& box_;
+  bool fromCode_ = false;
+};
+
+}  // namespace
+
+std::unique_ptr<NativeControl> makeTextBox(TextBox& model, const Site& site) {
+  return std::make_unique<NativeTextBox>(model, site);
+}
+
+}  // namespace korventally::win32

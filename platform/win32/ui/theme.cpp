@@ -1,0 +1,38 @@
+#include "platform/win32/ui/theme.h"
+
+#include "platform/win32/ui/system_function.h"
+
+namespace korventally::win32 {
+namespace {
+
+HTHEME openButtonTheme(HWND window, int dpi) {
+  using OpenType = HTHEME(WINAPI*)(HWND, LPCWSTR, UINT);
+  const auto open = systemFunction<OpenType>(L"uxtheme", "OpenThemeDataForDpi");
+  return open ? open(window, L"BUTTON", static_cast<UINT>(dpi)) : OpenThemeData(window, L"BUTTON");
+}
+
+}  // namespace
+
+ButtonTheme::ButtonTheme(HWND window, int dpi) : theme_(openButtonTheme(window, dpi)) {}
+
+ButtonTheme::~ButtonTheme() {
+  if (theme_ != nullptr) CloseThemeData(theme_);
+}
+
+void ButtonTheme::draw(HDC dc, int part, int state, const RECT& area) const {
+  DrawThemeBackground(theme_, dc, part, state, &area, nullptr);
+}
+
+RECT ButtonTheme::content(HDC dc, int part, int state, const RECT& area) const {
+  RECT inner = area;
+  GetThemeBackgroundContentRect(theme_, dc, part, state, &area, &inner);
+  return inner;
+}
+
+SIZE ButtonTheme::size(HDC dc, int part, int state) const {
+  SIZE size{};
+  GetThemePartSize(theme_, dc, part, state, nullptr, TS_DRAW, &size);
+  return size;
+}
+
+}  // namespace korventally::win32
