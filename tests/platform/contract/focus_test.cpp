@@ -87,6 +87,18 @@ TEST_F(Focus, MovesOnWhenAHandlerClosesItsOwnControl) {
   });
 }
 
+TEST_F(Focus, StaysWhereCodeClosesAndOpensTheControl) {
+  form.open([&] {
+    click(form.shortBox);
+    form.takeLog();
+    form.shortBox.setEnabled(false);
+    form.shortBox.setEnabled(true);
+    press(form, Key::kSpace);
+    EXPECT_EQ(form.shortBox.text(), " ");
+    EXPECT_EQ(form.takeLog(), Log{});
+  });
+}
+
 TEST_F(Focus, CanBeTakenBackByTheHandlerOfAnotherControl) {
   form.open([&] {
     form.last.onClick = [&] { form.setFocus(form.shortBox); };

@@ -105,7 +105,7 @@ TEST_F(TextBoxes, TakeTheQuotesFromAPastedPath) {
     form.box.setTakesPath();
     paste(form.box, "\"C:\\My Study\"");
     EXPECT_EQ(form.box.text(), "C:\\My Study");
-    paste(form.shortBox, "\"1234\"");
+    paste(form.shortBox, "\"12345\"");
     EXPECT_EQ(form.shortBox.text(), "1234");
   });
 }
