@@ -18,7 +18,7 @@ GdiObject<HFONT> createFont(const Font& font, int dpi) {
   wanted.lfWeight = font.bold ? FW_BOLD : FW_NORMAL;
   wanted.lfUnderline = font.underlined;
   wanted.lfCharSet = std::string_view(font.face) == "Symbol" ? SYMBOL_CHARSET : DEFAULT_CHARSET;
-  wanted.lfQuality = CLEARTYPE_QUALITY;
+  wanted.lfQuality = DEFAULT_QUALITY;
   lstrcpynW(wanted.lfFaceName, toWide(font.face).c_str(), LF_FACESIZE);
   return GdiObject<HFONT>(CreateFontIndirectW(&wanted));
 }
