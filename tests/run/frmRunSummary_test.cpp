@@ -81,6 +81,8 @@ TEST_F(RunSummary, RunsTheEngineToItsVerdictAndTidiesUp) {
         EXPECT_FALSE(s.cmdBack.enabled());
         EXPECT_TRUE(s.txtSpecies.usable());
         EXPECT_EQ(s.lblStatus.text(), "");
+        // The wait is busy, and the engine must not pay for it.
+        EXPECT_EQ(desktop.belowNormalPriority(), when > 100);
         running.push_back(s.lblRunning.text());
       });
     }
@@ -88,6 +90,9 @@ TEST_F(RunSummary, RunsTheEngineToItsVerdictAndTidiesUp) {
     click(s.cmdRUN);
     EXPECT_EQ(running, (std::vector<std::string>{"", "Running.", "Running..", "Running..."}));
     expectIdle(s, kDone);
+    EXPECT_FALSE(desktop.belowNormalPriority());
+    EXPECT_EQ(desktop.announcements(), std::vector<std::string>{kDone});
+    EXPECT_EQ(desktop.startStyles().front(), WindowStyle::kHidden);
     EXPECT_EQ(theCase.SilLimit, "7.5");
     EXPECT_EQ(desktop.filesInNotepad(), std::vector<std::string>{list});
     EXPECT_EQ(leftovers(), (std::vector<std::string>{"korventally.lst", "open_file.bat"}));
@@ -124,6 +129,7 @@ TEST_F(RunSummary, DebugModeKeepsTheFilesAndPauses) {
     EXPECT_EQ(desktop.fileBytes(kStudy + "run_korventally.bat"),
               "\"D:\\Prog\\korventally.exe\" \"C:\\Study\\korventally.inp\"\r\npause\r\n");
     EXPECT_TRUE(desktop.fileBytes(kStudy + "korventally.inp"));
+    EXPECT_EQ(desktop.startStyles().front(), WindowStyle::kNormalFocus);
     click(s.cmdRUN);
     expectIdle(s, kDone);
   });
