@@ -20,7 +20,8 @@ DWORD styleFor(Align align) {
 class NativeLabel : public NativeControl {
  public:
   NativeLabel(Label& model, const Site& site)
-      : NativeControl(model, site, L"STATIC", SS_NOPREFIX | styleFor(model.align())) {}
+      : NativeControl(model, site, L"STATIC",
+                      WS_CLIPSIBLINGS | SS_NOPREFIX | styleFor(model.align())) {}
 
   void refresh(Aspect aspect) override {
     NativeControl::refresh(aspect);

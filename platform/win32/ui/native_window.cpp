@@ -42,6 +42,11 @@ void registerClass(WNDPROC procedure) {
   RegisterClassExW(&windowClass);  // fails, and does no harm, from the second window on
 }
 
+bool overlap(const Rect& a, const Rect& b) {
+  return a.left < b.left + b.width && b.left < a.left + a.width && a.top < b.top + b.height &&
+         b.top < a.top + a.height;
+}
+
 }  // namespace
 
 NativeWindow::NativeWindow(Window& window, HWND owner)
@@ -81,6 +86,17 @@ HWND NativeWindow::createFrame(HWND owner) {
   return handle;
 }
 
+void NativeWindow::putBehindNeighbours(const Label& label) {
+  const auto& neighbours = label.container()->children();
+  const bool overlaps =
+      std::any_of(neighbours.begin(), neighbours.end(), [&](const Control* other) {
+        return other->kind() != Control::Kind::kLabel && overlap(label.place(), other->place());
+      });
+  if (!overlaps) return;
+  constexpr UINT kOrderOnly = SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE;
+  SetWindowPos(handleOf(label), HWND_BOTTOM, 0, 0, 0, 0, kOrderOnly);
+}
+
 void NativeWindow::createControls(const Container& container, HWND parent) {
   for (Control* child : container.children()) {
     auto& control = controls_[child] = createControl(*child, parent);
@@ -89,6 +105,11 @@ void NativeWindow::createControls(const Container& container, HWND parent) {
     names_.add(control->handle(), child->accessibleName());
     if (child->kind() == Control::Kind::kFrame) {
       createControls(static_cast<const Frame&>(*child), control->handle());
+    }
+  }
+  for (const Control* child : container.children()) {
+    if (child->kind() == Control::Kind::kLabel) {
+      putBehindNeighbours(static_cast<const Label&>(*child));
     }
   }
 }
@@ -151,8 +172,9 @@ void NativeWindow::refresh(const Control& control, Aspect aspect) {
 void NativeWindow::setFocus(const Control& control) {
   if (GetActiveWindow() != handle_) return;
   HWND target = handleOf(control);
-  SetFocus(target);
+  // Before the focus arrives, because what it brings about may prepare the text for typing.
   if (control.kind() == Control::Kind::kTextBox) SendMessageW(target, EM_SETSEL, 0, -1);
+  SetFocus(target);
 }
 
 void NativeWindow::restoreFocus() {

@@ -43,6 +43,8 @@ class NativeWindow : public WindowView {
  private:
   static LRESULT CALLBACK procedure(HWND handle, UINT message, WPARAM first, LPARAM second);
   HWND createFrame(HWND owner);
+  /// A label may reach into its neighbour, but must not paint over it.
+  void putBehindNeighbours(const Label& label);
   void createControls(const Container& container, HWND parent);
   std::unique_ptr<NativeControl> createControl(Control& control, HWND parent);
 

@@ -1,6 +1,8 @@
 #include "platform/win32/ui/painted_control.h"
 
+#include <algorithm>
 #include <string_view>
+#include <vector>
 
 #include "platform/container.h"
 #include "platform/win32/system/text.h"
@@ -29,6 +31,20 @@ bool changesLook(UINT message) {
 
 /// The private area where fonts with a symbol character set keep their 256 characters.
 constexpr wchar_t kSymbolArea = 0xF000;
+
+constexpr wchar_t kSymbolLeftArrow = 0xAC;
+constexpr wchar_t kLeftArrow = 0x2190;
+constexpr wchar_t kRightArrow = 0x2192;
+
+bool isSymbol(const Font& font) { return std::string_view(font.face) == "Symbol"; }
+
+/// Whether the selected font has every character of a text.
+bool fontShows(HDC dc, const std::wstring& text) {
+  std::vector<WORD> glyphs(text.size());
+  GetGlyphIndicesW(dc, text.c_str(), static_cast<int>(text.size()), glyphs.data(),
+                   GGI_MARK_NONEXISTING_GLYPHS);
+  return std::find(glyphs.begin(), glyphs.end(), WORD{0xFFFF}) == glyphs.end();
+}
 
 }  // namespace
 
@@ -76,9 +92,17 @@ void PaintedControl::paintOn(HDC dc) {
   const KeepDc keep(dc);
   RECT area;
   GetClientRect(handle(), &area);
-  SelectObject(dc, stage().font(model().font()));
+  selectFont(dc);
   SetBkMode(dc, TRANSPARENT);
   paint(dc, area);
+}
+
+/// Free replacements of the Symbol font may lack its arrows; any text font has arrows of its own.
+void PaintedControl::selectFont(HDC dc) {
+  const Font& font = model().font();
+  SelectObject(dc, stage().font(font));
+  symbolsMissing_ = isSymbol(font) && !fontShows(dc, caption());
+  if (symbolsMissing_) SelectObject(dc, stage().font({"Arial", font.points, font.bold}));
 }
 
 void PaintedControl::paintGround(HDC dc, const RECT& area) {
@@ -87,8 +111,11 @@ void PaintedControl::paintGround(HDC dc, const RECT& area) {
 
 std::wstring PaintedControl::caption() const {
   std::wstring text = toWide(model().text());
-  if (std::string_view(model().font().face) != "Symbol") return text;
-  for (wchar_t& unit : text) unit = static_cast<wchar_t>(unit + kSymbolArea);
+  if (!isSymbol(model().font())) return text;
+  for (wchar_t& unit : text) {
+    const wchar_t arrow = unit == kSymbolLeftArrow ? kLeftArrow : kRightArrow;
+    unit = symbolsMissing_ ? arrow : static_cast<wchar_t>(unit + kSymbolArea);
+  }
   return text;
 }
 

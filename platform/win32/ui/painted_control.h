@@ -29,6 +29,9 @@ class PaintedControl : public NativeControl {
  private:
   void paintOn(HDC dc);
   void paintBuffered();
+  void selectFont(HDC dc);
+
+  bool symbolsMissing_ = false;
 };
 
 }  // namespace korventally::win32

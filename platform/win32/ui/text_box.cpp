@@ -46,6 +46,8 @@ class NativeTextBox : public NativeControl {
       NativeControl::refresh(aspect);
       fromCode_ = false;
     }
+    // Whoever goes on typing does so behind the text that was put there.
+    if (aspect == Aspect::kText) SendMessageW(handle(), EM_SETSEL, 0x7FFFFFFF, 0x7FFFFFFF);
   }
 
  protected:
