@@ -32,17 +32,17 @@ struct Shape {
   Bytes span{};  // largest minus least
   std::size_t decimals = 0;
   unsigned spare_bits = 0;  // of eight digits, those that this shape does not have
-  // The digits divided by powers[100 * sign + e] are the value; sign is 2 for exponent -e and 0
-  // for +e, the distances of "-" and "+" from "+". Powers of ten up to 10**22 are exact doubles,
-  // so the one division rounds once, and correctly. -1 stands for all others, and for the ","
-  // between "+" and "-": a value below zero is not taken.
-  std::array<double, 300> powers{};
+  // The digits divided by powers[4 * e + sign] are the value; sign is 2 for exponent -e and 0 for
+  // +e, the distances of "-" and "+" from "+". Powers of ten up to 10**22 are exact doubles, so
+  // the one division rounds once, and correctly. -1 stands for all others, and for the "," between
+  // "+" and "-": a value below zero is not taken.
+  std::array<double, 400> powers{};
 };
 
 double PowerAt(std::size_t decimals, int index) {
-  const int k = static_cast<int>(decimals);
-  const int power = index < 100 ? k - index : k + index - 200;
-  if (power < 0 || power > 22 || (index >= 100 && index < 200)) return -1;
+  const int k = static_cast<int>(decimals), e = index / 4, sign = index % 4;
+  const int power = sign == 0 ? k - e : k + e;
+  if (power < 0 || power > 22 || (sign != 0 && sign != 2)) return -1;
   double number = 1;
   for (int i = 0; i < power; ++i) number *= 10;
   return number;
@@ -59,7 +59,7 @@ Shape MakeShape(std::size_t decimals, char separator, char mark) {
     shape.least[i] = static_cast<std::uint8_t>(i < least.size() ? least[i] : 0);
     shape.span[i] = static_cast<std::uint8_t>(i < least.size() ? most[i] - least[i] : 255);
   }
-  for (int i = 0; i < 300; ++i) {
+  for (int i = 0; i < 400; ++i) {
     shape.powers[static_cast<std::size_t>(i)] = PowerAt(decimals, i);
   }
   return shape;
@@ -128,7 +128,7 @@ void AddShaped(const Shape& shape, const char*& at, double*& sum, double* const 
     const std::size_t tens = exponent >> 16 & 0x0F;
     const std::size_t ones = exponent >> 24 & 0x0F;
     const auto digits = static_cast<std::int64_t>(EightDigits(packed << spare_bits));
-    const double value = static_cast<double>(digits) / powers[100 * sign + 10 * tens + ones];
+    const double value = static_cast<double>(digits) / powers[40 * tens + 4 * ones + sign];
     if (!(value >= 0)) break;
     *to++ += value;
     text += decimals + kRestOfShape + 1;
