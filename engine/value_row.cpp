@@ -12,6 +12,10 @@
 #include "engine/fields.h"
 #include "engine/text.h"
 
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
 namespace korventally::engine {
 
 namespace {
@@ -38,6 +42,9 @@ struct Shape {
   // "+" and "-": a value below zero is not taken.
   std::array<double, 400> powers{};
 };
+
+// Where the characters "+00" would lead if they counted as they are.
+constexpr std::size_t kFirstPower = 40 * '0' + 4 * '0' + '+';
 
 double PowerAt(std::size_t decimals, int index) {
   const int k = static_cast<int>(decimals), e = index / 4, sign = index % 4;
@@ -99,9 +106,14 @@ Word Load(const char* from) {
 
 inline bool Matches(const char* text, const Bytes& least, const Bytes& span) {
   const auto fits = (Load<Bytes>(text) - least) <= span;
+#if defined(__SSE2__)
+  // One instruction that the compiler does not find by itself: a tenth of the engine's time.
+  return _mm_movemask_epi8(std::bit_cast<__m128i>(fits)) == 0xFFFF;
+#else
   std::uint64_t halves[2];
   std::memcpy(halves, &fits, sizeof halves);
   return (halves[0] & halves[1]) == ~std::uint64_t{0};
+#endif
 }
 
 // Eight digits, the first in the lowest byte, as a number: pairs, then fours, then all eight.
@@ -124,11 +136,12 @@ void AddShaped(const Shape& shape, const char*& at, double*& sum, double* const 
     // The digit before the point and those behind it, side by side, with zeros in front.
     const std::uint64_t packed = Load<std::uint64_t>(text + 3) << 8 | (text[1] & 0xFF);
     const auto exponent = Load<std::uint32_t>(text + 3 + decimals);
-    const std::size_t sign = (exponent >> 8 & 0xFF) - '+';
-    const std::size_t tens = exponent >> 16 & 0x0F;
-    const std::size_t ones = exponent >> 24 & 0x0F;
+    const std::size_t sign = exponent >> 8 & 0xFF;
+    const std::size_t tens = exponent >> 16 & 0xFF;
+    const std::size_t ones = exponent >> 24;
     const auto digits = static_cast<std::int64_t>(EightDigits(packed << spare_bits));
-    const double value = static_cast<double>(digits) / powers[40 * tens + 4 * ones + sign];
+    const double value =
+        static_cast<double>(digits) / powers[40 * tens + 4 * ones + sign - kFirstPower];
     if (!(value >= 0)) break;
     *to++ += value;
     text += decimals + kRestOfShape + 1;
