@@ -3,11 +3,13 @@
 
 Usage: compare.py MAKE_STUDY ENGINE [FOLDER]
 Writes a year of hours x 1,000 receptors x 5 groups into FOLDER (about 530 MB; a temporary folder
-when none is given), reads it once to warm the cache, then times each program three times and shows
-the best. "two at once" keeps two cores busy, as the engine does.
+when none is given), reads it once to warm the cache, then times each program several times and shows
+the best. MB/s/core are megabytes per second that a core was busy, the system's share included, so
+that other work on the machine matters little. "two at once" keeps two cores busy, as the engine does.
 """
 import os
 import pathlib
+import resource
 import shutil
 import subprocess
 import sys
@@ -30,13 +32,15 @@ print(m / 24 * 1e6)
 
 
 def best_of(times, work):
-    best = None
+    """The least seconds of the clock and of the processor, each over all of its processes."""
+    clock, processor = [], []
     for _ in range(times):
-        begin = time.perf_counter()
+        before, begin = resource.getrusage(resource.RUSAGE_CHILDREN), time.perf_counter()
         work()
-        took = time.perf_counter() - begin
-        best = took if best is None else min(best, took)
-    return best
+        clock.append(time.perf_counter() - begin)
+        after = resource.getrusage(resource.RUSAGE_CHILDREN)
+        processor.append(after.ru_utime + after.ru_stime - before.ru_utime - before.ru_stime)
+    return min(clock), min(processor)
 
 
 def run(command):
@@ -61,18 +65,18 @@ def main():
     run(["wc", "-l"] + files)
     awk = shutil.which("mawk") or "awk"
     rows = [
-        ("wc -l, one at a time", size, 1, best_of(3, lambda: run(["wc", "-l"] + files))),
-        ("wc -l, two at once", 2 * size, 2, best_of(3, lambda: two_lists(["wc", "-l"], files))),
-        ("engine, whole run", size, min(2, os.cpu_count()),
-         best_of(3, lambda: run([engine, str(folder / "korventally.inp")]))),
-        (os.path.basename(awk) + ", one file", one, 1, best_of(1, lambda: run([awk, AWK, files[0]]))),
-        ("python3, one file", one, 1,
-         best_of(1, lambda: run([sys.executable, "-c", PYTHON, files[0]]))),
+        ("wc -l, one at a time", size, best_of(7, lambda: run(["wc", "-l"] + files))),
+        ("wc -l, two at once", 2 * size, best_of(7, lambda: two_lists(["wc", "-l"], files))),
+        ("engine, whole run", size,
+         best_of(7, lambda: run([engine, str(folder / "korventally.inp")]))),
+        (os.path.basename(awk) + ", one file", one, best_of(2, lambda: run([awk, AWK, files[0]]))),
+        ("python3, one file", one,
+         best_of(2, lambda: run([sys.executable, "-c", PYTHON, files[0]]))),
     ]
-    print("%-24s %8s %6s %8s %12s" % ("", "MB", "cores", "s", "MB/s/core"))
-    for name, megabytes, cores, seconds in rows:
-        print("%-24s %8.0f %6d %8.3f %12.0f" % (name, megabytes, cores, seconds,
-                                                megabytes / seconds / cores))
+    print("%-24s %8s %10s %10s %12s" % ("", "MB", "clock, s", "cores, s", "MB/s/core"))
+    for name, megabytes, (clock, processor) in rows:
+        print("%-24s %8.0f %10.3f %10.3f %12.0f" % (name, megabytes, clock, processor,
+                                                    megabytes / processor))
     if not keep:
         shutil.rmtree(folder)
 

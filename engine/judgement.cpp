@@ -108,10 +108,9 @@ Averages::Averages(const Case& the_case, const Blocks& blocks, const std::vector
     : groups_(groups),
       blocks_(static_cast<std::size_t>(blocks.count)),
       receptors_(receptors),
-      scale_(the_case.scale),
+      factor_(the_case.scale / static_cast<double>(blocks.hours)),
       offset_(the_case.offset),
-      background_(the_case.background),
-      hours_(static_cast<double>(blocks.hours)) {}
+      background_(the_case.background) {}
 
 bool Exceeds(double total, double standard) { return total - standard > kRounding * standard; }
 

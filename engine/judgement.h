@@ -28,7 +28,7 @@ class Averages {
 
   // The group's own average, without background.
   double Own(std::size_t group, std::size_t block, std::size_t receptor) const {
-    return groups_[group].sums[block * receptors_ + receptor] * scale_ / hours_ + offset_;
+    return groups_[group].sums[block * receptors_ + receptor] * factor_ + offset_;
   }
 
   // The average with the background, which belongs to the first group only.
@@ -40,7 +40,9 @@ class Averages {
   const std::vector<GroupSums>& groups_;
   std::size_t blocks_;
   std::size_t receptors_;
-  double scale_, offset_, background_, hours_;
+  double factor_;  // from a sum in g/m**3 to an average in ug/m**3
+  double offset_;
+  double background_;
 };
 
 struct Place {

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "engine/line_reader.h"
 #include "engine/receptor_file.h"
 #include "tests/engine/study.h"
 
@@ -26,6 +27,8 @@ const BadText kBadConcentrations[] = {
     {"# head\n\n", " does not begin with year, month, day and hour of a real date.", 2},
     {"2009 1 1 x 1 1\n", " does not begin with year, month, day and hour of a real date.", 1},
     {"2009 2 29 0 1 1\n", " does not begin with year, month, day and hour of a real date.", 1},
+    {",2009,1,1,0,1,1\n", " does not begin with year, month, day and hour of a real date.", 1},
+    {"2009,,1,1,0,1,1\n", " does not begin with year, month, day and hour of a real date.", 1},
     {"2009 1 1\n", " does not begin with year, month, day and hour of a real date.", 1},
     {"2009 1 1 0 1 1\n# late\n", " does not begin with year, month, day and hour of a real date.",
      2},
@@ -109,6 +112,32 @@ TEST(ConcentrationFile, ReadsLinesOfAnyLengthAcrossBlocks) {
   EXPECT_NE(study.Read("out.lst").find("Receptors that exceed:        5,714 of 40,000"),
             std::string::npos)
       << study.Read("out.lst");
+}
+
+// A line end at every place around the end of a block, and lines of several blocks.
+TEST(LineReader, FindsLineEndsWhereverTheBlocksEnd) {
+  const Study study;
+  for (std::size_t first = LineReader::kBlock - 3; first <= LineReader::kBlock + 3; ++first) {
+    for (const char* end : {"\n", "\r\n"}) {
+      const std::vector<std::size_t> sizes = {first, 0, 1, 2 * LineReader::kBlock, first, 5};
+      std::string text;
+      for (const std::size_t size : sizes) text += std::string(size, 'x') + end;
+      study.Write("lines", text + "tail");
+      InputFile file(study.Path("lines"));
+      LineReader reader(file, 10 * LineReader::kBlock);
+      std::string_view line;
+      for (const std::size_t size : sizes) {
+        ASSERT_TRUE(reader.Next(line));
+        ASSERT_EQ(line.size(), size);
+        ASSERT_TRUE(reader.complete());
+      }
+      ASSERT_TRUE(reader.Next(line));
+      EXPECT_EQ(line, "tail");
+      EXPECT_FALSE(reader.complete());
+      EXPECT_FALSE(reader.Next(line));
+      EXPECT_EQ(reader.line_number(), sizes.size() + 1);
+    }
+  }
 }
 
 struct BadReceptors {

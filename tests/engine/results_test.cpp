@@ -107,13 +107,13 @@ TEST(Results, AddTheBackgroundToTheFirstGroupOnly) {
 }
 
 TEST(Results, TakeValuesAtTheLimitsForWhatTheyAre) {
-  // 0.1 + 0.2 and the like: the hours average to the limits only up to the last bit.
+  // In doubles three hours of 9.7 average to a little more than 9.7, and of 8.4 to a little less.
   Study study;
-  WriteMicro(study, "all.con", std::vector<std::vector<double>>(6, {9.1, 9.2}));
-  WriteMicro(study, "group_2.con", std::vector<std::vector<double>>(6, {0.3, 0.7}));
+  WriteMicro(study, "all.con", std::vector<std::vector<double>>(6, {9.7, 9.8}));
+  WriteMicro(study, "group_2.con", std::vector<std::vector<double>>(6, {0.3, 8.4}));
   WriteMicro(study, "group_3.con", std::vector<std::vector<double>>(6, {1, 1}));
-  study.line(15) = "9.1";
-  study.line(19) = "0.7";
+  study.line(15) = "9.7";
+  study.line(19) = "8.4";
   const std::string list = CompletedList(study);
   EXPECT_SAYS(list, "Exceedances:                  2 (");
   EXPECT_SAYS(list, "Receptors that exceed:        1 of 2");
@@ -180,6 +180,15 @@ TEST(Results, WarnWhenThePartsAreMoreThanTheWhole) {
   EXPECT_SAYS(
       list,
       "The worst case: 24.0100 against 9.0000 ug/m**3 at receptor B,\r\n  from 2009-01-01 03.");
+}
+
+TEST(Results, TakeATenthOfAPerCentForRounding) {
+  Study study;
+  WriteMicro(study, "all.con", std::vector<std::vector<double>>(6, {10, 10}));
+  WriteMicro(study, "group_2.con", std::vector<std::vector<double>>(6, {4, 4}));
+  WriteMicro(study, "group_3.con", std::vector<std::vector<double>>(6, {6.0105, 6.0115}));
+  EXPECT_SAYS(CompletedList(study), "In 2 averages the groups FACILITY and OTHER");
+  EXPECT_SAYS(study.Read("out.lst"), "10.0115 against 10.0000 ug/m**3 at receptor B");
 }
 
 TEST(Results, RefuseRunsThatHoldNoAverage) {

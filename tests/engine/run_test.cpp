@@ -74,6 +74,38 @@ TEST(Run, SeesThroughOtherSpellingsOfTheSameFile) {
   EXPECT_NE(study.Read("group_2.con"), "");
 }
 
+// Copies a study's files into the folder, points the control file at them and runs it there.
+Result RunInFolder(Study& study, const std::filesystem::path& folder) {
+  for (const std::size_t line : {1u, 6u, 8u, 10u, 17u}) {
+    const std::filesystem::path from = PathFromText(study.line(line));
+    const std::filesystem::path to = folder / from.filename();
+    if (line != 1) std::filesystem::copy_file(from, to);
+    study.line(line) = TextFromPath(to);
+  }
+  return study.Run();
+}
+
+TEST(Run, ReadsPathsInTheCodePageOfTheSystem) {
+  Study study;
+  const std::filesystem::path folder =
+      study.Path("") / std::filesystem::path(u8"Gr\u00f6\u00dfe & 100 %");
+  if (PathFromText(TextFromPath(folder)) != folder) GTEST_SKIP() << "this code page lacks \u00f6";
+  std::filesystem::create_directory(folder);
+  EXPECT_EQ(RunInFolder(study, folder).sentence, "");
+  EXPECT_TRUE(std::filesystem::exists(folder / "out.lst"));
+}
+
+TEST(Run, ReadsPathsLongerThanOldSystemsAllowed) {
+  Study study;
+  std::filesystem::path folder = study.Path("");
+  for (int i = 0; i < 4; ++i) folder /= std::string(90, static_cast<char>('a' + i));
+  std::error_code error;
+  std::filesystem::create_directories(folder, error);
+  if (error) GTEST_SKIP() << "the C++ library of this system cannot make such a folder";
+  EXPECT_EQ(RunInFolder(study, folder).sentence, "");
+  EXPECT_TRUE(std::filesystem::exists(folder / "out.lst"));
+}
+
 TEST(Run, SaysWhenThereIsNoPlaceForAVerdict) {
   Study study;
   study.line(1) = TextFromPath(study.Path("no such folder") / "out.lst");

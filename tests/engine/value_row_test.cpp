@@ -118,11 +118,11 @@ TEST(ValueRow, RefusesWhatIsNotTwoConcentrationsAndSaysWhy) {
 TEST(ValueRow, TakesTheEdgesOfTheRange) {
   double sums[4] = {};
   ValueRow row;
-  ASSERT_TRUE(row.AddTo(sums, Row(" 1e9 -0.0 1.00000E-105 9.99999E+07").values()));
+  ASSERT_TRUE(row.AddTo(sums, Row(" 1e9 -0.0 9.99999E+07 1.00000E-105").values()));
   EXPECT_EQ(sums[0], 1e9);
   EXPECT_EQ(sums[1], 0.0);
-  EXPECT_EQ(sums[2], 1e-105);
-  EXPECT_EQ(sums[3], 99999900.0);
+  EXPECT_EQ(sums[2], 99999900.0);
+  EXPECT_EQ(sums[3], 1e-105);
 }
 
 }  // namespace

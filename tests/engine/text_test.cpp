@@ -1,0 +1,55 @@
+#include "engine/text.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "engine/columns.h"
+
+namespace korventally::engine {
+namespace {
+
+TEST(Text, WholeNumbersAreDigitsOnlyAndFitAnyCounter) {
+  EXPECT_EQ(ParseWhole("0"), 0);
+  EXPECT_EQ(ParseWhole("007"), 7);
+  EXPECT_EQ(ParseWhole("999999999"), 999999999);
+  for (const char* bad : {"", " 1", "1 ", "+1", "-1", "1.0", "1e3", "1234567890", "4294967297"}) {
+    EXPECT_EQ(ParseWhole(bad), std::nullopt) << bad;
+  }
+}
+
+TEST(Text, DecimalsFillTheWholeTextAndAreFinite) {
+  EXPECT_EQ(ParseDecimal("91.0"), 91.0);
+  EXPECT_EQ(ParseDecimal(".5"), 0.5);
+  EXPECT_EQ(ParseDecimal("-3e2"), -300.0);
+  for (const char* bad : {"", " 1", "1 ", "+1", "1,5", "1.2.3", "nan", "inf", "1e999", "0x1p3"}) {
+    EXPECT_EQ(ParseDecimal(bad), std::nullopt) << bad;
+  }
+}
+
+TEST(Text, QuotedTextStaysInsideOneSentence) {
+  EXPECT_EQ(Quoted("a\r\nRUN COMPLETED\t"), "\"a??RUN COMPLETED?\"");
+  EXPECT_EQ(Quoted(std::string(261, 'x')), "\"" + std::string(260, 'x') + "...\"");
+  EXPECT_EQ(Quoted(std::string(260, 'x')), "\"" + std::string(260, 'x') + "\"");
+}
+
+TEST(Text, NumbersInWords) {
+  EXPECT_EQ(Counted(1, "hour"), "1 hour");
+  EXPECT_EQ(Counted(0, "hour"), "0 hours");
+  EXPECT_EQ(Grouped(999), "999");
+  EXPECT_EQ(Grouped(1000), "1,000");
+  EXPECT_EQ(Grouped(1234567), "1,234,567");
+}
+
+TEST(Columns, NumbersKeepTheirWidth) {
+  EXPECT_EQ(Fixed(91.00004, 4), "91.0000");
+  EXPECT_EQ(Fixed(12345.67894, 4), "12345.6789");
+  EXPECT_EQ(Fixed(123456.789, 4), "1.2346E+05");
+  EXPECT_EQ(Fixed(1234.5678, 3, 8), "1234.568");
+  EXPECT_EQ(Fixed(12345.678, 3, 8), "1.23E+04");
+  EXPECT_EQ(Shortest(91.0), "91");
+  EXPECT_EQ(Shortest(0.2), "0.2");
+}
+
+}  // namespace
+}  // namespace korventally::engine
