@@ -1,8 +1,14 @@
 #include "platform/folder_browser.h"
 
+// The other headers need the types of the first.
+// clang-format off
+#include <windows.h>
+#include <commctrl.h>
 #include <ole2.h>
 #include <shlobj.h>
-#include <windows.h>
+// clang-format on
+
+#include <iterator>
 
 #include "platform/win32/system/text.h"
 #include "platform/win32/ui/native_lookup.h"
@@ -35,8 +41,32 @@ ItemIdList ownItem(void* item) {
   return item == nullptr ? ItemIdList() : ItemIdList(item, &CoTaskMemFree);
 }
 
+BOOL CALLBACK revealIfTree(HWND child, LPARAM) {
+  wchar_t name[32] = L"";
+  GetClassNameW(child, name, static_cast<int>(std::size(name)));
+  if (std::wstring(name) != WC_TREEVIEWW) return TRUE;
+  if (const HTREEITEM selected = TreeView_GetSelection(child)) {
+    TreeView_EnsureVisible(child, selected);
+  }
+  return FALSE;
+}
+
+void CALLBACK reveal(HWND dialog, UINT, UINT_PTR timer, DWORD) {
+  KillTimer(dialog, timer);
+  EnumChildWindows(dialog, &revealIfTree, 0);
+}
+
+/// The browser scrolls to a selection before it lays itself out and before all folders are listed,
+/// so that the selection can end up out of sight. A moment later it is scrolled to again.
+void revealSoon(HWND dialog) {
+  constexpr UINT_PTR kTimer = 0x4B54;
+  constexpr UINT kDelayMs = 150;
+  SetTimer(dialog, kTimer, kDelayMs, &reveal);
+}
+
 int CALLBACK callBack(HWND dialog, UINT message, LPARAM parameter, LPARAM context) {
   const BrowseInfo& info = *reinterpret_cast<const BrowseInfo*>(context);
+  if (message == BFFM_INITIALIZED || message == BFFM_SELCHANGED) revealSoon(dialog);
   return info.callback(reinterpret_cast<BrowseDialog*>(dialog), message, parameter, info.data);
 }
 

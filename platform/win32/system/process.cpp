@@ -38,11 +38,18 @@ class Win32BatchRun : public BatchRun {
     if (!job_ || !TerminateJobObject(job_.get(), kTerminated)) {
       TerminateProcess(interpreter_.get(), kTerminated);
     }
-    WaitForSingleObject(interpreter_.get(), kPatienceMs);
+    awaitInterpreter();
     for (DWORD waited = 0; running() && waited < kPatienceMs; waited += 10) Sleep(10);
   }
 
+  void endInterpreter() override {
+    TerminateProcess(interpreter_.get(), kTerminated);
+    awaitInterpreter();
+  }
+
  private:
+  void awaitInterpreter() const { WaitForSingleObject(interpreter_.get(), kPatienceMs); }
+
   Handle job_;
   Handle interpreter_;
 };
