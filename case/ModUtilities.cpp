@@ -1,11 +1,15 @@
 #include "case/ModUtilities.h"
 
+#include <memory>
+#include <utility>
+
 #include "case/failures.h"
 #include "platform/dialogs.h"
 #include "platform/events.h"
 #include "platform/files.h"
 #include "platform/later.h"
 #include "platform/process.h"
+#include "platform/window.h"
 
 namespace korventally {
 namespace {
@@ -30,7 +34,9 @@ constexpr std::uint32_t kEditorBatchLifetime = 5000;
 void removeEditorBatch(const std::string& path) {
   const Status removed = removeOwnFile(path);
   if (removed) return;
-  showFailure(nullptr, "A file of the program's own could not be deleted:", removed.error(),
+  const std::vector<Window*>& windows = Window::openWindows();
+  showFailure(windows.empty() ? nullptr : windows.back(),
+              "A file of the program's own could not be deleted:", removed.error(),
               "Please delete it when no program uses it any more.");
 }
 
@@ -105,12 +111,17 @@ void AnimateRunning(Label& label, const std::function<bool()>& interrupted) {
 Status OpenFileInNotepad(const std::string& directory, const std::string& fileName) {
   const std::string folder = joinPath(trimBlanks(directory), "");
   const std::string batch = folder + "open_file.bat";
+  // An editor opened a moment ago has its batch file still in use.
+  runNow(batch);
   Status status = retryWhileBusy(
       [&] { return writeTextFile(batch, {"notepad " + batchQuoted(folder + fileName)}); });
   if (!status) return status;
-  // Planned before the start, so that the file goes whatever becomes of the start.
-  runLater(batch, kEditorBatchLifetime, [batch] { removeEditorBatch(batch); });
-  const auto started = startBatchFile(batch, WindowStyle::kHidden);
+  auto started = startBatchFile(batch, WindowStyle::kHidden);
+  const std::shared_ptr<BatchRun> editor = started ? std::move(started.value()) : nullptr;
+  runLater(batch, kEditorBatchLifetime, [batch, editor] {
+    if (editor) editor->endInterpreter();
+    removeEditorBatch(batch);
+  });
   if (!started) return started.error();
   return {};
 }

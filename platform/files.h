@@ -25,9 +25,9 @@ bool folderListsEntries(const std::string& path);
 Status deleteFile(const std::string& path);
 
 /// Creates or replaces a text file: the lines in the ANSI code page, each ended by CR LF. Succeeds
-/// only when every byte was accepted, flushed and the file closed; what could not be written in full
-/// is deleted again. A character that the code page lacks is an error that names the text, and the
-/// file is left untouched.
+/// only when every byte was accepted, flushed and the file closed; what could not be written in
+/// full is deleted again. A character that the code page lacks is an error that names the text, and
+/// the file is left untouched.
 Status writeTextFile(const std::string& path, const std::vector<std::string>& lines);
 
 /// A file open for reading, with reading, writing and deleting left to everybody else.

@@ -48,6 +48,12 @@ void runLater(std::string name, std::uint32_t delay, std::function<void()> actio
   actions().push_back({std::move(name), tickCount(), delay, std::move(action)});
 }
 
+void runNow(const std::string& name) {
+  const auto named = std::find_if(actions().begin(), actions().end(),
+                                  [&](const Action& planned) { return planned.name == name; });
+  if (named != actions().end()) runAndRemove(named);
+}
+
 void runDue() {
   while (untilNextDue() == 0u) runAndRemove(nextAction());
 }

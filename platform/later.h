@@ -13,6 +13,9 @@ namespace korventally {
 /// one that is still to come.
 void runLater(std::string name, std::uint32_t delay, std::function<void()> action);
 
+/// Runs the action of that name now, if it is still to come.
+void runNow(const std::string& name);
+
 /// For back ends: runs what is due at `tickCount()`.
 void runDue();
 

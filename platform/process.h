@@ -21,6 +21,9 @@ class BatchRun {
   virtual bool running() = 0;
   /// Ends all of them.
   virtual void terminate() = 0;
+  /// Ends the interpreter alone, which may hold the batch file open as long as a program that it
+  /// started runs. The program runs on.
+  virtual void endInterpreter() = 0;
 };
 
 /// Starts a batch file, given by its full path, through the system's command interpreter, and does

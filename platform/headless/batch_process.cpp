@@ -11,6 +11,8 @@
 namespace korventally::headless {
 namespace {
 
+constexpr std::uint32_t kForEver = 0xFFFFFFFF;
+
 Desktop::World& world() { return Desktop::current().world(); }
 
 std::vector<std::string> linesOf(const std::string& bytes) {
@@ -58,6 +60,8 @@ void BatchProcess::runCommand(const std::vector<std::string>& words) {
   } else if (words.size() == 2 && command == "notepad") {
     world().notepad.push_back(words[1]);
     waiting_ = true;
+    // Nobody closes notepad here, and some interpreters keep the batch file open meanwhile.
+    Desktop::current().lockFile(path_, kForEver);
   } else if (words.size() == 1 && command == "pause") {
     waiting_ = true;
   } else {
@@ -85,7 +89,12 @@ void BatchProcess::goOn() {
 
 void BatchProcess::terminate() {
   engine_ = nullptr;
+  endInterpreter();
+}
+
+void BatchProcess::endInterpreter() {
   running_ = false;
+  if (Desktop::current().fileBytes(path_)) Desktop::current().lockFile(path_, 0);
 }
 
 }  // namespace korventally::headless

@@ -19,6 +19,7 @@ class BatchProcess : public std::enable_shared_from_this<BatchProcess> {
   bool running() const { return running_; }
   bool engineRunning() const { return engine_ != nullptr; }
   void terminate();
+  void endInterpreter();
 
  private:
   void runLines();

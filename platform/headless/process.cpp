@@ -13,6 +13,7 @@ class SimulatedRun : public BatchRun {
       : process_(std::move(process)) {}
   bool running() override { return process_->running(); }
   void terminate() override { process_->terminate(); }
+  void endInterpreter() override { process_->endInterpreter(); }
 
  private:
   const std::shared_ptr<headless::BatchProcess> process_;
