@@ -42,6 +42,13 @@ Status writeAll(const Handle& file, const std::string& content, const std::strin
   return {};
 }
 
+/// Closes the file whatever happens.
+Status fill(Handle file, const std::string& content, const std::string& path) {
+  if (Status written = writeAll(file, content, path); !written) return written;
+  if (!FlushFileBuffers(file.get()) || !file.close()) return lastError(path);
+  return {};
+}
+
 class Win32FileReader : public FileReader {
  public:
   Win32FileReader(Handle file, std::string path) : file_(std::move(file)), path_(std::move(path)) {}
@@ -97,10 +104,7 @@ Status writeTextFile(const std::string& path, const std::vector<std::string>& li
   Handle file(CreateFileW(nativePath(path).c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
                           CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
   if (!file) return lastError(path);
-  Status written = writeAll(file, content, path);
-  if (written && !FlushFileBuffers(file.get())) written = lastError(path);
-  if (!file.close() && written) written = lastError(path);
-  // Half a file under the right name is worse than none.
+  Status written = fill(std::move(file), content, path);
   if (!written) DeleteFileW(nativePath(path).c_str());
   return written;
 }
