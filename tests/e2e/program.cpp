@@ -1,0 +1,153 @@
+#include "tests/e2e/program.h"
+
+#include <fstream>
+#include <sstream>
+#include <stdexcept>
+
+namespace korventally::e2e {
+namespace {
+
+constexpr const wchar_t* kWizardCaption = L" KorvenTally [";
+constexpr const wchar_t* kDialogClass = L"#32770";
+
+/// A top-level window of a process whose caption begins like this, or none.
+struct Search {
+  DWORD process;
+  std::wstring caption;
+  HWND found;
+};
+
+BOOL CALLBACK look(HWND window, LPARAM parameter) {
+  auto& search = *reinterpret_cast<Search*>(parameter);
+  DWORD process = 0;
+  GetWindowThreadProcessId(window, &process);
+  if (process != search.process || !IsWindowVisible(window)) return TRUE;
+  if (!textOf(window).starts_with(search.caption)) return TRUE;
+  search.found = window;
+  return FALSE;
+}
+
+std::wstring withoutAccessKey(std::wstring caption) {
+  std::erase(caption, L'&');
+  return caption;
+}
+
+}  // namespace
+
+TestFolder::TestFolder(const std::wstring& name) {
+  // Process numbers come again; a tick that comes again does so after weeks.
+  static ULONGLONG last = GetTickCount64();
+  parent_ = fs::temp_directory_path() / ("korventally-" + std::to_string(++last));
+  path_ = parent_ / name;
+  fs::create_directories(path_);
+}
+
+TestFolder::~TestFolder() {
+  std::error_code ignored;
+  fs::remove_all(parent_, ignored);
+}
+
+std::string readFile(const fs::path& path) {
+  std::ostringstream bytes;
+  bytes << std::ifstream(path, std::ios::binary).rdbuf();
+  return bytes.str();
+}
+
+void writeFile(const fs::path& path, const std::string& bytes) {
+  if (!(std::ofstream(path, std::ios::binary) << bytes).flush()) {
+    throw std::runtime_error("could not write " + path.string());
+  }
+}
+
+fs::path folderFrom(const wchar_t* variable) {
+  const wchar_t* value = _wgetenv(variable);
+  if (value == nullptr) throw std::runtime_error("run by scripts/test, which names the folders");
+  return fs::path(value).make_preferred();
+}
+
+fs::path installation() { return folderFrom(L"KORVENTALLY_INSTALLATION"); }
+
+Program::Program(const fs::path& folder) {
+  STARTUPINFOW startup{};
+  startup.cb = sizeof startup;
+  const std::wstring exe = (folder / "KorvenTallyWizard.exe").wstring();
+  if (!CreateProcessW(exe.c_str(), nullptr, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
+                      &process_)) {
+    throw std::runtime_error("could not start the program");
+  }
+  window_ = windowNamed(kWizardCaption);
+}
+
+Program::~Program() {
+  TerminateProcess(process_.hProcess, 1);
+  WaitForSingleObject(process_.hProcess, 5000);
+  CloseHandle(process_.hThread);
+  CloseHandle(process_.hProcess);
+  closeEditors();
+}
+
+HWND Program::find(const std::wstring& caption) const {
+  Search search{process_.dwProcessId, caption, nullptr};
+  EnumWindows(look, reinterpret_cast<LPARAM>(&search));
+  return search.found;
+}
+
+bool Program::hasWindowNamed(const std::wstring& caption) const { return find(caption) != nullptr; }
+
+HWND Program::windowNamed(const std::wstring& caption) const {
+  HWND window = nullptr;
+  expectSoon(
+      [&] {
+        window = find(caption);
+        return window != nullptr && GetForegroundWindow() == window && focusIn(window) != nullptr;
+      },
+      "window " + fs::path(caption).string());
+  return window;
+}
+
+void Program::chooseMenu(wchar_t menu, wchar_t entry) const {
+  pressKey(static_cast<WORD>(menu), VK_MENU);
+  pressKey(static_cast<WORD>(entry));
+}
+
+bool Program::ended(std::chrono::milliseconds limit) const {
+  return WaitForSingleObject(process_.hProcess, static_cast<DWORD>(limit.count())) == WAIT_OBJECT_0;
+}
+
+Message waitForMessage(const Program& program, const std::wstring& title) {
+  Message message{program.windowNamed(title), title, L"", L""};
+  if (classOf(message.window) != kDialogClass) throw std::runtime_error("not a message box");
+  for (HWND child = GetWindow(message.window, GW_CHILD); child != nullptr;
+       child = GetWindow(child, GW_HWNDNEXT)) {
+    if (!IsWindowVisible(child)) continue;
+    const std::wstring text = textOf(child);
+    if (classOf(child) == L"static") message.text += text;
+    if (classOf(child) != L"button") continue;
+    message.buttons += (message.buttons.empty() ? L"" : L" ") + withoutAccessKey(text);
+  }
+  return message;
+}
+
+void answer(const Message& message, int button) {
+  HWND control = GetDlgItem(message.window, button);
+  expectSoon([&] { return isUsable(control); }, "the message can be answered");
+  clickOn(control);
+  expectSoon([&] { return !IsWindow(message.window); }, "the message is gone");
+}
+
+HWND editorShowing(const std::wstring& fileName) {
+  for (HWND editor = FindWindowExW(nullptr, nullptr, L"Notepad", nullptr); editor != nullptr;
+       editor = FindWindowExW(nullptr, editor, L"Notepad", nullptr)) {
+    if (textOf(editor).starts_with(fileName)) return editor;
+  }
+  return nullptr;
+}
+
+void closeEditors() {
+  while (HWND editor = editorShowing(L"")) {
+    PostMessageW(editor, WM_CLOSE, 0, 0);
+    if (!waitUntil([&] { return !IsWindow(editor); }, 3s)) return;
+  }
+}
+
+}  // namespace korventally::e2e

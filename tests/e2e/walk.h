@@ -1,0 +1,31 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "tests/e2e/program.h"
+
+namespace korventally::e2e {
+
+/// What a person enters for the sample study, as samples/README.md tells.
+struct Study {
+  std::wstring workDir;  ///< with its last backslash
+  std::vector<std::wstring> concFiles = {L"all_sources.con", L"facility.con", L"other_1.con",
+                                         L"other_2.con", L"other_3.con"};
+  std::wstring receptors = L"receptors.dat";
+  std::wstring year = L"2009", month = L"01", day = L"12", hour = L"00", hours = L"168";
+};
+
+/// Told after each step what was entered there, while the step is still open.
+using Observer = std::function<void(int step, const std::string& what)>;
+inline void nobody(int, const std::string&) {}
+
+/// From the first step to the open run summary, with the mouse or with the keyboard alone.
+void walkWithMouse(const Program& program, const Study& study, const Observer& observe = nobody);
+void walkWithKeyboard(const Program& program, const Study& study, const Observer& observe = nobody);
+
+/// The shortest case, two groups with all options as they are, to the open run summary.
+void walkShortCase(const Program& program, const TestFolder& study);
+
+}  // namespace korventally::e2e
