@@ -32,6 +32,7 @@ OleColor nextColor(OleColor before, FieldChange change) {
 constexpr std::uint32_t kEditorBatchLifetime = 5000;
 
 void removeEditorBatch(const std::string& path) {
+  if (timeIsUp()) return (void)deleteFile(path);
   const Status removed = removeOwnFile(path);
   if (removed) return;
   const std::vector<Window*>& windows = Window::openWindows();
@@ -93,7 +94,7 @@ void FilterDigitKey(std::int16_t& keyCode) {
 
 void WaitMilliseconds(std::int16_t duration, const std::function<bool()>& interrupted) {
   const std::uint32_t start = tickCount();
-  const auto stop = [&] { return interrupted && interrupted(); };
+  const auto stop = [&] { return timeIsUp() || (interrupted && interrupted()); };
   // Unsigned: the difference stays right when the tick counter wraps during the wait.
   while (!stop() && duration > 0 && tickCount() - start < static_cast<std::uint32_t>(duration)) {
     processPendingEvents();
@@ -108,15 +109,18 @@ void AnimateRunning(Label& label, const std::function<bool()>& interrupted) {
   }
 }
 
-Status OpenFileInNotepad(const std::string& directory, const std::string& fileName) {
+Status OpenFileInNotepad(const std::string& directory, const std::string& fileName,
+                         const std::function<bool()>& interrupted) {
   const std::string folder = joinPath(trimBlanks(directory), "");
   const std::string batch = folder + "open_file.bat";
   // An editor opened a moment ago has its batch file still in use.
   runNow(batch);
-  Status status = retryWhileBusy(
-      [&] { return writeTextFile(batch, {"notepad " + batchQuoted(folder + fileName)}); });
+  const Status status = retryWhileBusy(
+      [&] { return writeTextFile(batch, {"notepad " + batchQuoted(folder + fileName)}); },
+      interrupted);
   if (!status) return status;
-  auto started = startBatchFile(batch, WindowStyle::kHidden);
+  if (interrupted && interrupted()) return removeOwnFile(batch);
+  auto started = startBatchFile(batch, WindowStyle::kHidden, StartFolder::kSystem);
   const std::shared_ptr<BatchRun> editor = started ? std::move(started.value()) : nullptr;
   runLater(batch, kEditorBatchLifetime, [batch, editor] {
     if (editor) editor->endInterpreter();

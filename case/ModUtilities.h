@@ -50,8 +50,10 @@ void AnimateRunning(Label& label, const std::function<bool()>& interrupted = {})
 
 /// Opens a file of the directory in notepad, through the batch file "open_file.bat" in that
 /// directory. The batch file is deleted 5000 ms after it was started, whatever the user does
-/// meanwhile. Returns why the batch file could not be written or started.
-Status OpenFileInNotepad(const std::string& directory, const std::string& fileName);
+/// meanwhile. Returns why the batch file could not be written or started; nothing is opened when
+/// `interrupted` says that nobody wants it any more.
+Status OpenFileInNotepad(const std::string& directory, const std::string& fileName,
+                         const std::function<bool()>& interrupted = {});
 
 /// Text without its leading and trailing blanks (character 32 only).
 std::string trimBlanks(std::string_view text);

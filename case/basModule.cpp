@@ -47,7 +47,7 @@ std::string_view valueOf(std::string_view line) {
 }
 
 std::string defaultWorkingDirectory() {
-  const std::string path = joinPath(installationDirectory(), "Movrix.cfg");
+  const std::string path = installationDirectory() + "\\Movrix.cfg";
   if (!fileExists(path)) return {};
   const std::optional<std::string> line = readFirstLine(path);
   if (!line) return {};

@@ -13,20 +13,21 @@ namespace {
 constexpr std::uint32_t kPatience = 1500;
 constexpr std::int16_t kPause = 50;
 
+}  // namespace
+
 std::string reasonOf(const Error& error) {
   if (error.code == 0) return error.text;
   return error.text + " (" + std::to_string(error.code) + ")";
 }
-
-}  // namespace
 
 Status retryWhileBusy(const std::function<Status()>& operation,
                       const std::function<bool()>& interrupted) {
   const std::uint32_t start = tickCount();
   Status status = operation();
   while (!status && status.error().kind == ErrorKind::kBusy && tickCount() - start < kPatience) {
-    if (interrupted && interrupted()) break;
     WaitMilliseconds(kPause, interrupted);
+    // Nobody wants the operation any more: it must not happen behind a closed window.
+    if (interrupted && interrupted()) break;
     status = operation();
   }
   return status;

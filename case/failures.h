@@ -17,6 +17,9 @@ Status retryWhileBusy(const std::function<Status()>& operation,
 /// Deletes one of the program's own files, with retries. One that is gone already is as good.
 Status removeOwnFile(const std::string& path, const std::function<bool()>& interrupted = {});
 
+/// The system's reason with its number.
+std::string reasonOf(const Error& error);
+
 /// Says in a message box what failed, on which file, the system's reason and what to do about it.
 void showFailure(Window* owner, const std::string& what, const Error& error,
                  const std::string& advice);

@@ -28,6 +28,11 @@ std::vector<Action>& actions() {
   return list;
 }
 
+bool& hurrying() {
+  static bool now = false;
+  return now;
+}
+
 std::vector<Action>::iterator nextAction() {
   return std::min_element(actions().begin(), actions().end(), [](const Action& a, const Action& b) {
     return a.remaining() < b.remaining();
@@ -71,7 +76,11 @@ void finishLater() {
 }
 
 void hurryLater() {
+  hurrying() = true;
   while (!actions().empty()) runAndRemove(actions().begin());
+  hurrying() = false;
 }
+
+bool timeIsUp() { return hurrying(); }
 
 }  // namespace korventally

@@ -31,4 +31,7 @@ void finishLater();
 /// Runs everything that is still to come at once: there is no time left to wait.
 void hurryLater();
 
+/// Whether that is so: nobody may wait any more, nor ask the person anything.
+bool timeIsUp();
+
 }  // namespace korventally

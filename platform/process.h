@@ -26,9 +26,14 @@ class BatchRun {
   virtual void endInterpreter() = 0;
 };
 
-/// Starts a batch file, given by its full path, through the system's command interpreter, and does
-/// not wait for it. The interpreter reads the file in the ANSI code page, runs no AutoRun commands
-/// and looks for no program in the current directory.
-Result<std::unique_ptr<BatchRun>> startBatchFile(const std::string& path, WindowStyle style);
+/// Where the interpreter starts: in this program's current directory, from which relative paths
+/// count, or in the system's, where nobody can plant a program that the file calls by its name.
+enum class StartFolder { kCurrent, kSystem };
+
+/// Starts a batch file through the system's command interpreter, and does not wait for it. The
+/// interpreter reads the file in the ANSI code page, runs no AutoRun commands and looks for no
+/// program in the current directory.
+Result<std::unique_ptr<BatchRun>> startBatchFile(const std::string& path, WindowStyle style,
+                                                 StartFolder folder);
 
 }  // namespace korventally

@@ -46,7 +46,9 @@ void Window::unload() {
 }
 
 void Window::requestClose() {
-  if (open_ && queryUnload()) unload();
+  // What lies under a modal window cannot be closed, whoever asks.
+  if (!open_ || openWindows().back() != this) return;
+  if (queryUnload()) unload();
 }
 
 void Window::unloadAll() {

@@ -27,7 +27,8 @@ class Window : public Container {
   bool isOpen() const { return open_; }
   /// Closes the window without asking.
   void unload();
-  /// The person wants the window closed; `queryUnload` may refuse.
+  /// The person wants the window closed; `queryUnload` may refuse, and so does a modal window over
+  /// this one.
   void requestClose();
   /// Closes every open window, the youngest first, without asking.
   static void unloadAll();

@@ -6,7 +6,7 @@
 
 namespace korventally {
 
-std::string enginePath() { return joinPath(installationDirectory(), "korventally.exe"); }
+std::string enginePath() { return installationDirectory() + "\\korventally.exe"; }
 
 std::string batchFilePath(const AnalysisCase& theCase) {
   return theCase.WorkDir + "run_korventally.bat";

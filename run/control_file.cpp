@@ -19,9 +19,9 @@ std::string controlFilePath(const AnalysisCase& theCase) {
   return theCase.WorkDir + "korventally.inp";
 }
 
-std::vector<std::string> controlFileLines(const AnalysisCase& theCase) {
-  std::vector<std::string> lines;
-  const auto add = [&](const std::string& value) { lines.push_back(kLinePrefix + value); };
+std::vector<std::string> controlFileValues(const AnalysisCase& theCase) {
+  std::vector<std::string> values;
+  const auto add = [&](const std::string& value) { values.push_back(value); };
   add(theCase.WorkDir + theCase.ListFile);
   add(theCase.Species);
   add(theCase.StartYear + "," + theCase.StartMonth + "," + theCase.StartDay + "," +
@@ -43,6 +43,12 @@ std::vector<std::string> controlFileLines(const AnalysisCase& theCase) {
   add(kFixedTwo);
   add(theCase.Rank1Flag);
   add(kFixedZero);
+  return values;
+}
+
+std::vector<std::string> controlFileLines(const AnalysisCase& theCase) {
+  std::vector<std::string> lines = controlFileValues(theCase);
+  for (std::string& line : lines) line.insert(0, kLinePrefix);
   return lines;
 }
 

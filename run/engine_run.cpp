@@ -1,5 +1,7 @@
 #include "run/engine_run.h"
 
+#include <utility>
+
 #include "case/ModUtilities.h"
 #include "case/failures.h"
 #include "platform/dialogs.h"
@@ -35,14 +37,19 @@ Status nothingAt(const std::string& path) {
 EngineRun::EngineRun(Window& window, Label& lblRunning)
     : case_(basModule::analysisCase),
       listFile_(case_.WorkDir + case_.ListFile),
+      keepFiles_(case_.DebugMode),
+      controlFile_{controlFilePath(case_)},
+      batchFile_{batchFilePath(case_)},
       window_(window),
       lblRunning_(lblRunning) {}
 
-EngineRun::~EngineRun() = default;
+EngineRun::~EngineRun() {
+  if (!over_) abandon();
+}
 
 bool EngineRun::prepare() {
   return checkEngine() && checkCodePage() && removeOldBatchFile() && removeOldListFile() &&
-         writeOwnFiles();
+         writeControlFile() && wait(kBeforeBatchFile) && writeBatchFile();
 }
 
 bool EngineRun::checkEngine() {
@@ -57,60 +64,67 @@ bool EngineRun::checkEngine() {
 /// What the run writes is checked before the run deletes anything, so that a name which cannot be
 /// written costs nothing.
 bool EngineRun::checkCodePage() {
-  std::vector<std::string> texts = controlFileLines(case_);
+  std::vector<std::string> texts = controlFileValues(case_);
   for (std::string& line : batchFileLines(case_)) texts.push_back(std::move(line));
   for (const std::string& text : texts) {
-    if (const auto bytes = toAnsi(text); !bytes) {
-      messageBox(owner(),
-                 "This text holds characters that the system's code page lacks:\n" +
-                     trimBlanks(text) +
-                     "\n\nThe engine could not read it. Please use another name for the file, "
-                     "folder or group.",
-                 kErrorTitle);
-      return false;
-    }
+    if (toAnsi(text)) continue;
+    messageBox(owner(),
+               "This text holds characters that the system's code page lacks:\n" + text +
+                   "\n\nThe engine could not read it. Please use another name for the file, folder "
+                   "or group.",
+               kErrorTitle);
+    return false;
   }
   return true;
 }
 
 bool EngineRun::removeOldBatchFile() {
-  if (!fileExists(batchFilePath(case_))) return true;
-  const Status removed = removeOwnFile(batchFilePath(case_), [this] { return abandoned_; });
-  return removed || fail("The batch file of an earlier run could not be deleted:", removed.error(),
-                         kFolderAdvice);
+  if (!fileExists(batchFile_.path)) return true;
+  const Status removed = removeOwnFile(batchFile_.path, interrupted_);
+  if (!removed) {
+    return fail("The batch file of an earlier run could not be deleted:", removed.error(),
+                kFolderAdvice);
+  }
+  return !abandoned_;
 }
 
 /// A verdict may only ever be read from a file that this run's engine wrote. So nothing at all may
 /// be left under the list file's name, whatever the deletion reported: no folder, no hidden file.
 bool EngineRun::removeOldListFile() {
-  const auto interrupted = [this] { return abandoned_; };
   Status removed;
-  if (fileExists(listFile_)) removed = removeOwnFile(listFile_, interrupted);
-  if (removed) removed = retryWhileBusy([this] { return nothingAt(listFile_); }, interrupted);
-  return removed || fail("The list file of an earlier run could not be deleted:", removed.error(),
-                         kFolderAdvice);
+  if (fileExists(listFile_)) removed = removeOwnFile(listFile_, interrupted_);
+  if (removed) removed = retryWhileBusy([this] { return nothingAt(listFile_); }, interrupted_);
+  if (!removed) {
+    return fail("The list file of an earlier run could not be deleted:", removed.error(),
+                kFolderAdvice);
+  }
+  return !abandoned_;
 }
 
-bool EngineRun::writeOwnFiles() {
-  const auto interrupted = [this] { return abandoned_; };
-  const Status control = retryWhileBusy([] { return WriteControlFile(); }, interrupted);
-  ownsControlFile_ = control.ok();
-  if (!control)
-    return fail("The control file could not be written:", control.error(), kFolderAdvice);
-  if (!wait(kBeforeBatchFile)) return false;
-  const Status batch = retryWhileBusy(
-      [this] { return writeTextFile(batchFilePath(case_), batchFileLines(case_)); }, interrupted);
-  ownsBatchFile_ = batch.ok();
-  if (!batch) return fail("The batch file could not be written:", batch.error(), kFolderAdvice);
-  return !abandoned_;
+bool EngineRun::writeControlFile() {
+  return write(controlFile_,
+               "The control file could not be written:", [] { return WriteControlFile(); });
+}
+
+bool EngineRun::writeBatchFile() {
+  return write(batchFile_, "The batch file could not be written:", [this] {
+    return writeTextFile(batchFile_.path, batchFileLines(case_));
+  });
+}
+
+bool EngineRun::write(OwnFile& file, const std::string& what,
+                      const std::function<Status()>& operation) {
+  const Status written = retryWhileBusy(operation, interrupted_);
+  file.written = written.ok();
+  return written ? !abandoned_ : fail(what, written.error(), kFolderAdvice);
 }
 
 bool EngineRun::start() {
   const WindowStyle style = case_.DebugMode ? WindowStyle::kNormalFocus : WindowStyle::kHidden;
-  auto processes = startBatchFile(batchFilePath(case_), style);
+  auto processes = startBatchFile(batchFile_.path, style, StartFolder::kCurrent);
   if (!processes) {
-    return fail("The command interpreter could not be started for the batch file:",
-                processes.error(), "Please ask the administrator of this computer.");
+    return fail("The command interpreter could not be started:", processes.error(),
+                "Please ask the administrator of this computer.");
   }
   processes_ = std::move(processes.value());
   patience_ = Patience(tickCount());
@@ -124,12 +138,10 @@ std::optional<Verdict> EngineRun::waitForVerdict() {
   while (!verdict && wait(kBeforeEachScan) && awaitListFile()) {
     // Asked before the reading: what the last process wrote is then sure to be read.
     const bool gone = processesGone();
-    verdict = readVerdict(listFile_, [this] { return abandoned_; });
-    if (!verdict && !abandoned_ && patience_.exhaustedWithListFile(tickCount(), gone) &&
-        !keepWaiting("The engine has ended without a verdict in its list file:")) {
-      break;
-    }
-    AnimateRunning(lblRunning_, [this] { return abandoned_; });
+    const auto read = readVerdict(listFile_, interrupted_);
+    if (read) verdict = read.value();
+    if (!verdict && !worthWaitingAfter(read, gone)) break;
+    AnimateRunning(lblRunning_, interrupted_);
   }
   wait(kBeforeVerdictShows);
   return abandoned_ ? std::nullopt : verdict;
@@ -140,19 +152,34 @@ bool EngineRun::awaitListFile() {
   while (true) {
     const bool gone = processesGone();
     if (fileExists(listFile_)) return true;
-    if (patience_.exhaustedWithoutListFile(tickCount(), gone) &&
-        !keepWaiting(gone ? "The engine has ended without writing its list file:"
-                          : "The engine has not written its list file yet:")) {
-      return false;
+    const std::uint32_t now = tickCount();
+    if (gone && patience_.verdictOverdue(now)) {
+      if (!keepWaiting("The engine has ended without writing its list file:")) return false;
+    } else if (patience_.listFileOverdue(now)) {
+      if (!keepWaiting("The engine has not written its list file yet:")) return false;
     }
     if (!wait(kListFilePause)) return false;
   }
 }
 
-bool EngineRun::keepWaiting(const std::string& what) {
+/// After a reading that gave no verdict. A file that could not be read has not been searched, so it
+/// says nothing about the engine; others may hold it for a while.
+bool EngineRun::worthWaitingAfter(const Result<std::optional<Verdict>>& read, bool gone) {
+  if (abandoned_) return false;
+  const std::uint32_t now = tickCount();
+  if (!read) {
+    return !patience_.listFileOverdue(now) ||
+           keepWaiting("The list file cannot be read:", reasonOf(read.error()));
+  }
+  patience_.listFileWasRead(now);
+  return !gone || !patience_.verdictOverdue(now) ||
+         keepWaiting("The engine has ended without a verdict in its list file:");
+}
+
+bool EngineRun::keepWaiting(const std::string& what, const std::string& reason) {
   const Answer answer = messageBox(
       owner(),
-      what + "\n" + listFile_ +
+      what + "\n" + listFile_ + (reason.empty() ? "" : "\n\n" + reason) +
           "\n\nKeep waiting for it? \"Yes\" waits another 30 seconds, \"No\" ends the run.",
       kWarningTitle, Buttons::kYesNo);
   if (abandoned_) return false;
@@ -161,33 +188,31 @@ bool EngineRun::keepWaiting(const std::string& what) {
   return answer == Answer::kYes;
 }
 
-void EngineRun::removeOwnFiles() {
-  if (case_.DebugMode) return;
-  const auto remove = [this](bool& owned, const std::string& path) {
-    if (!owned) return;
-    owned = false;
-    const Status removed = removeOwnFile(path);
-    if (!removed) {
-      showFailure(owner(), "A file of the run could not be deleted:", removed.error(),
-                  kLeftoverAdvice);
-    }
-  };
-  remove(ownsControlFile_, controlFilePath(case_));
-  remove(ownsBatchFile_, batchFilePath(case_));
+void EngineRun::finish() {
+  over_ = true;
+  if (keepFiles_) return;
+  for (OwnFile* file : {&controlFile_, &batchFile_}) {
+    if (!std::exchange(file->written, false)) continue;
+    const Status removed = removeOwnFile(file->path);
+    if (removed) continue;
+    showFailure(owner(), "A file of the run could not be deleted:", removed.error(),
+                kLeftoverAdvice);
+  }
 }
 
 void EngineRun::abandon() {
   abandoned_ = true;
   if (processes_) processes_->terminate();
-  if (case_.DebugMode) return;
+  if (keepFiles_) return;
   // What cannot be deleted at once is tried again, and reported, when the run's handler unwinds.
-  if (ownsControlFile_ && deleteFile(controlFilePath(case_))) ownsControlFile_ = false;
-  if (ownsBatchFile_ && deleteFile(batchFilePath(case_))) ownsBatchFile_ = false;
+  for (OwnFile* file : {&controlFile_, &batchFile_}) {
+    if (file->written && deleteFile(file->path)) file->written = false;
+  }
 }
 
 /// Waits while events are handled; false when the run was abandoned meanwhile.
 bool EngineRun::wait(int milliseconds) {
-  WaitMilliseconds(static_cast<std::int16_t>(milliseconds), [this] { return abandoned_; });
+  WaitMilliseconds(static_cast<std::int16_t>(milliseconds), interrupted_);
   return !abandoned_;
 }
 

@@ -19,6 +19,7 @@ namespace korventally {
 class EngineRun {
  public:
   EngineRun(Window& window, Label& lblRunning);
+  /// A run that is left half-way, by an exception, is abandoned.
   ~EngineRun();
   EngineRun(const EngineRun&) = delete;
   EngineRun& operator=(const EngineRun&) = delete;
@@ -28,38 +29,51 @@ class EngineRun {
   bool prepare();
   /// Starts the batch file. False when the command interpreter could not be started.
   bool start();
-  bool started() const { return processes_ != nullptr; }
   /// Waits, with the running animation, for the verdict in the list file. None when the user ended
   /// the run, or it was abandoned.
   std::optional<Verdict> waitForVerdict();
-  /// Deletes the control file and the batch file, unless debug mode keeps them.
-  void removeOwnFiles();
-  /// Ends the engine with every process that it started and deletes the run's own files, at once.
+  /// Whether the engine has started and its verdict is still to come.
+  bool awaitsVerdict() const { return processes_ != nullptr && !over_; }
+  /// Ends the run: deletes the control file and the batch file, unless debug mode keeps them.
+  void finish();
+  /// Ends the engine with every process that it started and deletes the run's own files, at once
+  /// and without a word.
   void abandon();
-  bool abandoned() const { return abandoned_; }
 
  private:
+  /// Paths as the run found them: the case may change before the run has unwound.
+  struct OwnFile {
+    std::string path;
+    bool written = false;
+  };
+
   bool checkEngine();
   bool checkCodePage();
   bool removeOldBatchFile();
   bool removeOldListFile();
-  bool writeOwnFiles();
+  bool writeControlFile();
+  bool writeBatchFile();
+  bool write(OwnFile& file, const std::string& what, const std::function<Status()>& operation);
   bool wait(int milliseconds);
   bool awaitListFile();
+  bool worthWaitingAfter(const Result<std::optional<Verdict>>& read, bool processesGone);
   bool processesGone() const { return !processes_->running(); }
-  bool keepWaiting(const std::string& what);
+  bool keepWaiting(const std::string& what, const std::string& reason = {});
   Window* owner() const { return window_.isOpen() ? &window_ : nullptr; }
   bool fail(const std::string& what, const Error& error, const std::string& advice);
 
   const AnalysisCase& case_;
   const std::string listFile_;
+  const bool keepFiles_;
+  OwnFile controlFile_;
+  OwnFile batchFile_;
   Window& window_;
   Label& lblRunning_;
   std::unique_ptr<BatchRun> processes_;
   Patience patience_{0};
-  bool ownsControlFile_ = false;
-  bool ownsBatchFile_ = false;
+  bool over_ = false;
   bool abandoned_ = false;
+  const std::function<bool()> interrupted_ = [this] { return abandoned_; };
 };
 
 }  // namespace korventally

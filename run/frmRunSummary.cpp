@@ -30,6 +30,8 @@ frmRunSummary::frmRunSummary() : Window(" KORVENTALLY Run Information:", {6615, 
   txtSILLimit.onKeyPress = limitKey;
   cmdRUN.onClick = [this] { cmdRUN_Click(); };
   cmdBack.onClick = [this] { cmdBack_Click(); };
+  chkAutoOpen.onClick = [this] { focusLent_ = false; };
+  chkAutoOpen.onLostFocus = [this] { focusLent_ = false; };
   txtSpecies.setAccessibleName("Species");
   txtAvePeriod.setAccessibleName("Averaging Period, hours");
   txtSILLimit.setAccessibleName("SIL Limit, ug/m**3");
@@ -58,18 +60,35 @@ void frmRunSummary::Form_Load() {
 
 void frmRunSummary::cmdBack_Click() { requestClose(); }
 
+class frmRunSummary::RunInProgress {
+ public:
+  RunInProgress(frmRunSummary& window, EngineRun& run) : window_(window) { window_.run_ = &run; }
+  ~RunInProgress() {
+    window_.run_ = nullptr;
+    window_.lblRunning.setText("");
+    window_.setRunning(false);
+  }
+  RunInProgress(const RunInProgress&) = delete;
+  RunInProgress& operator=(const RunInProgress&) = delete;
+
+ private:
+  frmRunSummary& window_;
+};
+
 void frmRunSummary::cmdRUN_Click() {
   // A second press can arrive while the first still prepares its files.
   if (run_ != nullptr) return;
   takeValuesBack();
-  EngineRun run(*this, lblRunning);
-  run_ = &run;
-  performRun(run);
-  run.removeOwnFiles();
-  run_ = nullptr;
-  setRunning(false);
+  RunStatus.reset();
+  lblStatus.setText("");
+  {
+    EngineRun run(*this, lblRunning);
+    const RunInProgress inProgress(*this, run);
+    performRun(run);
+    run.finish();
+  }
   showOutcome();
-  if (RunStatus && chkAutoOpen.checked()) openListFile();
+  if (RunStatus && isOpen() && chkAutoOpen.checked()) openListFile();
 }
 
 void frmRunSummary::takeValuesBack() {
@@ -80,26 +99,25 @@ void frmRunSummary::takeValuesBack() {
 }
 
 void frmRunSummary::performRun(EngineRun& run) {
-  RunStatus.reset();
   if (!run.prepare()) return;
   setRunning(true);
-  lblStatus.setText("");
   if (run.start()) RunStatus = run.waitForVerdict();
 }
 
+/// While a run lasts, the check box is what still counts for it, so it gets the focus that "RUN"
+/// loses; "RUN" gets it back unless the user has moved it or used the box meanwhile.
 void frmRunSummary::setRunning(bool running) {
   cmdRUN.setEnabled(!running);
   cmdBack.setEnabled(!running);
-  if (running) {
-    // The check box is what still counts for this run, so it gets the focus that "RUN" loses.
-    if (focused() == &cmdRUN) setFocus(chkAutoOpen);
-  } else if (focused() == &chkAutoOpen) {
+  if (running && focused() == &cmdRUN) {
+    setFocus(chkAutoOpen);
+    focusLent_ = true;
+  } else if (!running && std::exchange(focusLent_, false)) {
     setFocus(cmdRUN);
   }
 }
 
 void frmRunSummary::showOutcome() {
-  lblRunning.setText("");
   if (!RunStatus) return;
   lblStatus.setText(*RunStatus == Verdict::kCompleted ? "RUN COMPLETED"
                                                       : "RUN FAILED - SEE LIST FILE");
@@ -107,22 +125,22 @@ void frmRunSummary::showOutcome() {
 }
 
 void frmRunSummary::openListFile() {
-  const Status opened = OpenFileInNotepad(theCase().WorkDir, theCase().ListFile);
+  const Status opened =
+      OpenFileInNotepad(theCase().WorkDir, theCase().ListFile, [this] { return !isOpen(); });
   if (opened) return;
-  showFailure(this, "The list file could not be opened in notepad:", opened.error(),
+  showFailure(isOpen() ? this : nullptr,
+              "The list file could not be opened in notepad:", opened.error(),
               "The run is not affected. Please open the list file yourself.");
 }
 
 bool frmRunSummary::queryUnload() {
-  if (run_ == nullptr) return true;
-  if (run_->started() &&
-      messageBox(this, "The engine is still running. Stop it and close this window?", kWarningTitle,
-                 Buttons::kYesNo) != Answer::kYes) {
-    return false;
-  }
-  // The run may have ended while the question was open.
-  if (run_ != nullptr) run_->abandon();
-  return true;
+  return run_ == nullptr || !run_->awaitsVerdict() ||
+         messageBox(this, "The engine is still running. Stop it and close this window?",
+                    kWarningTitle, Buttons::kYesNo) == Answer::kYes;
+}
+
+void frmRunSummary::Form_Unload() {
+  if (run_ != nullptr && !RunStatus) run_->abandon();
 }
 
 std::string frmRunSummary::sessionEndObjection() const {

@@ -67,15 +67,20 @@ class frmRunSummary : public Window {
  protected:
   void Form_Load() override;
   bool queryUnload() override;
+  void Form_Unload() override;
 
  private:
+  /// The run in progress as this window knows it; however it ends, the window is usable again.
+  class RunInProgress;
+
   void takeValuesBack();
   void performRun(EngineRun& run);
   void setRunning(bool running);
   void showOutcome();
   void openListFile();
 
-  EngineRun* run_ = nullptr;  ///< the run in progress, if any
+  EngineRun* run_ = nullptr;
+  bool focusLent_ = false;  ///< a run has moved the focus away from "RUN", and nobody else since
 };
 
 }  // namespace korventally

@@ -5,33 +5,27 @@
 
 namespace korventally {
 
-/// Decides when a run that shows no verdict is worth a question: when its list file is still not
-/// there 30 s after the start, or when all of its processes are gone. After "keep waiting" the next
-/// question comes 30 s later at the earliest.
+/// Decides when a run that shows no verdict is worth a question: when its list file could not be
+/// read for 30 s, or when all of its processes are gone. After "keep waiting" the next question
+/// comes 30 s later at the earliest. Times are tick counts; the subtractions are unsigned, so they
+/// hold when the counter wraps.
 class Patience {
  public:
   static constexpr std::uint32_t kLimit = 30000;  ///< milliseconds
 
-  explicit Patience(std::uint32_t now) : start_(now) {}
+  explicit Patience(std::uint32_t now) : since_(now) {}
 
-  bool exhaustedWithoutListFile(std::uint32_t now, bool processesGone) const {
-    return limitPassed(now) || (processesGone && !extended_);
-  }
-  bool exhaustedWithListFile(std::uint32_t now, bool processesGone) const {
-    return processesGone && (!extended_ || limitPassed(now));
-  }
+  void listFileWasRead(std::uint32_t now) { since_ = now; }
   /// The user keeps waiting.
-  void extend(std::uint32_t now) {
-    start_ = now;
-    extended_ = true;
-  }
+  void extend(std::uint32_t now) { since_ = *(extended_ = now); }
+
+  bool listFileOverdue(std::uint32_t now) const { return now - since_ >= kLimit; }
+  /// For a run whose processes are gone.
+  bool verdictOverdue(std::uint32_t now) const { return !extended_ || now - *extended_ >= kLimit; }
 
  private:
-  /// Unsigned, so that it holds when the tick counter wraps.
-  bool limitPassed(std::uint32_t now) const { return now - start_ >= kLimit; }
-
-  std::uint32_t start_;
-  bool extended_ = false;
+  std::uint32_t since_;
+  std::optional<std::uint32_t> extended_;
 };
 
 }  // namespace korventally

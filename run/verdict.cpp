@@ -54,16 +54,16 @@ std::optional<Verdict> VerdictScanner::verdictOfLine() const {
   return std::nullopt;
 }
 
-std::optional<Verdict> readVerdict(const std::string& path,
-                                   const std::function<bool()>& interrupted) {
+Result<std::optional<Verdict>> readVerdict(const std::string& path,
+                                           const std::function<bool()>& interrupted) {
   auto file = openForReading(path);
-  if (!file) return std::nullopt;
+  if (!file) return file.error();
   VerdictScanner scanner;
   std::vector<char> buffer(kChunk);
   std::uint32_t lastEvents = tickCount();
   while (!interrupted()) {
     const auto count = file.value()->read(buffer);
-    if (!count) return std::nullopt;
+    if (!count) return count.error();
     if (count.value() == 0) return scanner.verdict();
     scanner.feed({buffer.data(), count.value()});
     if (tickCount() - lastEvents >= kMostWithoutEvents) {
@@ -71,7 +71,7 @@ std::optional<Verdict> readVerdict(const std::string& path,
       lastEvents = tickCount();
     }
   }
-  return std::nullopt;
+  return std::optional<Verdict>();
 }
 
 }  // namespace korventally

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/result.h"
+
 namespace korventally {
 
 /// The engine's verdict on its own run.
@@ -32,10 +34,10 @@ class VerdictScanner {
   std::optional<Verdict> verdict_;
 };
 
-/// Reads a list file from its first byte to its last and returns its verdict; none when it has
-/// none, or cannot be read just now. Events are handled while a large file is read; `interrupted`
-/// ends the reading.
-std::optional<Verdict> readVerdict(const std::string& path,
-                                   const std::function<bool()>& interrupted);
+/// Reads a list file from its first byte to its last and returns its verdict, or none; an error
+/// when it could not be read to its end. Events are handled while a large file is read;
+/// `interrupted` ends the reading without a verdict.
+Result<std::optional<Verdict>> readVerdict(const std::string& path,
+                                           const std::function<bool()>& interrupted);
 
 }  // namespace korventally

@@ -23,7 +23,8 @@ class SimulatedRun : public BatchRun {
 
 std::string installationDirectory() { return Desktop::current().world().installation; }
 
-Result<std::unique_ptr<BatchRun>> startBatchFile(const std::string& path, WindowStyle style) {
+Result<std::unique_ptr<BatchRun>> startBatchFile(const std::string& path, WindowStyle style,
+                                                 StartFolder /*folder*/) {
   Desktop::World& world = Desktop::current().world();
   if (auto error = world.faults.call(Desktop::Operation::kStart, path)) return *error;
   auto process = std::make_shared<headless::BatchProcess>(path);

@@ -1,3 +1,5 @@
+#include <exception>
+
 #include "platform/win32/ui/system_function.h"
 #include "platform/win32/ui/system_headers.h"
 #include "wizard/program.h"
@@ -13,6 +15,16 @@ void loadFromSystemFolderOnly() {
   if (set) set(LOAD_LIBRARY_SEARCH_SYSTEM32);
 }
 
+/// The program, or the one thing that can still be said when it cannot go on.
+int run() {
+  try {
+    return korventally::runProgram();
+  } catch (const std::exception&) {
+    MessageBoxW(nullptr, L"KorvenTally has run out of memory and has to close.", L"Error", MB_OK);
+    return 1;
+  }
+}
+
 }  // namespace
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR, int) {
@@ -20,7 +32,7 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR, int) {
   const INITCOMMONCONTROLSEX classes{sizeof classes, ICC_STANDARD_CLASSES | ICC_WIN95_CLASSES};
   InitCommonControlsEx(&classes);
   const HRESULT ole = OleInitialize(nullptr);  // the folder browser and accessible names need it
-  const int exitCode = korventally::runProgram();
+  const int exitCode = run();
   if (SUCCEEDED(ole)) OleUninitialize();
   return exitCode;
 }

@@ -27,7 +27,8 @@ class SimulatedDesktop : public ::testing::Test {
   /// Runs a batch file of that one line.
   std::unique_ptr<BatchRun> run(const std::string& line) {
     desktop->putFile("C:\\Study\\run.bat", line + "\r\n");
-    return std::move(startBatchFile("C:\\Study\\run.bat", WindowStyle::kHidden).value());
+    return std::move(
+        startBatchFile("C:\\Study\\run.bat", WindowStyle::kHidden, StartFolder::kCurrent).value());
   }
 
   const std::function<void(const std::string&)> asBefore = Desktop::onFailure;
@@ -80,7 +81,7 @@ TEST_F(SimulatedDesktop, TellsOfCommandsThatWereNeverMeant) {
     EXPECT_EQ(failures.size(), before + 1) << line;
   }
   EXPECT_EQ(desktop->enginesStarted(), 0);
-  (void)startBatchFile("C:\\none.bat", WindowStyle::kHidden);
+  (void)startBatchFile("C:\\none.bat", WindowStyle::kHidden, StartFolder::kCurrent);
   EXPECT_EQ(failures.back(), "a batch file was started that is not there: C:\\none.bat");
 }
 

@@ -113,7 +113,7 @@ TEST_F(ControlFile, IsHandedToTheEngineByTheBatchFile) {
   desktop.setInstallationDirectory("D:\\");
   theCase.DebugMode = true;
   EXPECT_EQ(batchFileLines(theCase),
-            (std::vector<std::string>{"\"D:\\korventally.exe\" \"C:\\Study\\korventally.inp\"",
+            (std::vector<std::string>{"\"D:\\\\korventally.exe\" \"C:\\Study\\korventally.inp\"",
                                       "pause"}));
 }
 

@@ -1,5 +1,7 @@
 #include "run/frmRunSummary.h"
 
+#include <new>
+
 #include "platform/events.h"
 #include "platform/later.h"
 #include "tests/study.h"
@@ -247,15 +249,125 @@ TEST_F(RunSummary, TakesAVerdictWrittenJustBeforeTheEngineEnds) {
   });
 }
 
-TEST_F(RunSummary, ReadsAroundALockedListFile) {
+TEST_F(RunSummary, ALockedListFileSaysNothingAboutTheEngine) {
   desktop.setEngine([&](Desktop::Engine& engine) {
     engine.writeLine(100, "RUN COMPLETED");
     engine.at(101, [&] { desktop.lockFile(list, 5000); });
+    engine.end(102);
   });
   inSummary([&](frmRunSummary& s) {
     click(s.cmdRUN);
     expectIdle(s, kDone);
   });
+}
+
+TEST_F(RunSummary, AsksWhenTheListFileStaysUnreadable) {
+  desktop.setEngine([&](Desktop::Engine& engine) {
+    engine.writeLine(100, "RUN COMPLETED");
+    engine.at(101, [&] { desktop.lockFile(list, 100'000); });
+  });
+  inSummary([&](frmRunSummary& s) {
+    bool named = false;
+    desktop.answerMessages([&](const std::string& text, Buttons) {
+      named = text.find("The list file cannot be read:\n" + list) == 0 &&
+              text.find("(32)") != std::string::npos;
+      return Answer::kNo;
+    });
+    click(s.cmdRUN);
+    EXPECT_TRUE(named);
+    expectIdle(s, "");
+    desktop.answerMessages({});
+  });
+}
+
+TEST_F(RunSummary, AListFileThatIsMadeAnewIsNoReasonToAsk) {
+  desktop.setEngine([&](Desktop::Engine& engine) {
+    engine.writeLine(100, "first");
+    engine.at(35'000, [&] { desktop.removeFile(list); });
+    engine.writeLine(39'000, "RUN COMPLETED");
+  });
+  inSummary([&](frmRunSummary& s) {
+    click(s.cmdRUN);
+    expectIdle(s, kDone);
+  });
+}
+
+TEST_F(RunSummary, AnOldVerdictGoesWhenTheNextRunCannotStart) {
+  inSummary([&](frmRunSummary& s) {
+    click(s.cmdRUN);
+    expectIdle(s, kDone);
+    desktop.removeFile("D:\\Prog\\korventally.exe");
+    expectError(
+        "The engine could not be found:\nD:\\Prog\\korventally.exe\n\nPlease copy korventally.exe "
+        "into this folder, then press RUN again.");
+    click(s.cmdRUN);
+    expectIdle(s, "");
+    EXPECT_TRUE(desktop.fileBytes(list)) << "nothing was deleted";
+  });
+}
+
+TEST_F(RunSummary, TextThatTheCodePageLacksCostsNothing) {
+  inSummary([&](frmRunSummary& s) {
+    desktop.putFile(list, "old");
+    theCase.GroupConcFiles[2] = "C:\\\u0421\u0442\\a.con";
+    expectError(
+        "This text holds characters that the system's code page lacks:\nC:\\\u0421\u0442\\a.con\n\n"
+        "The engine could not read it. Please use another name for the file, folder or group.");
+    click(s.cmdRUN);
+    EXPECT_EQ(leftovers(), std::vector<std::string>{"korventally.lst"});
+    EXPECT_EQ(desktop.fileBytes(list), "old");
+  });
+}
+
+TEST_F(RunSummary, AQuitEndsTheRunWithItsWindow) {
+  engineWrites({{100, "at it"}, {600'000, "RUN COMPLETED"}}, 0);
+  inSummary([&](frmRunSummary& s) {
+    desktop.at(3000, [&] {
+      Window::unloadAll();
+      EXPECT_FALSE(desktop.enginesRunning());
+      EXPECT_EQ(leftovers(), std::vector<std::string>{"korventally.lst"});
+    });
+    click(s.cmdRUN);
+    EXPECT_LT(desktop.now(), 10'000u);
+  });
+  EXPECT_TRUE(desktop.filesInNotepad().empty());
+}
+
+TEST_F(RunSummary, NothingHappensBehindAWindowThatWasClosedDuringThePreparation) {
+  desktop.putFile(list, "old");
+  desktop.putFile(kStudy + "run_korventally.bat", "old");
+  desktop.lockFile(kStudy + "run_korventally.bat", 300);
+  inSummary([&](frmRunSummary& s) {
+    desktop.at(20, [&] { s.requestClose(); });
+    click(s.cmdRUN);
+  });
+  EXPECT_EQ(desktop.fileBytes(list), "old");
+  EXPECT_EQ(desktop.calls(Desktop::Operation::kWrite), 0);
+}
+
+TEST_F(RunSummary, AnExceptionLeavesAUsableWindowAndNothingElse) {
+  engineWrites({{100, "at it"}}, 0);
+  inSummary([&](frmRunSummary& s) {
+    desktop.at(2000, [] { throw std::bad_alloc(); });
+    expectError("This could not be finished: std::bad_alloc");
+    click(s.cmdRUN);
+    expectIdle(s, "");
+    EXPECT_FALSE(desktop.enginesRunning());
+    EXPECT_EQ(leftovers(), std::vector<std::string>{"korventally.lst"});
+  });
+}
+
+TEST_F(RunSummary, TheFocusReturnsToRunUnlessTheUserChoseTheCheckBox) {
+  for (const bool used : {false, true}) {
+    inSummary([&](frmRunSummary& s) {
+      desktop.at(1500, [&] {
+        EXPECT_EQ(s.focused(), &s.chkAutoOpen);
+        if (used) press(s, Key::kSpace);
+      });
+      click(s.cmdRUN);
+      EXPECT_EQ(s.focused() == &s.cmdRUN, !used);
+    });
+  }
 }
 
 }  // namespace

@@ -53,16 +53,19 @@ TEST(VerdictScanner, TakesTheLastWholeLineThatIsAVerdict) {
 TEST(ReadVerdict, NeedsAFileThatCanBeReadToItsEnd) {
   Desktop desktop;
   desktop.makeFolder("C:\\S\\");
-  const auto read = [] { return readVerdict("C:\\S\\a.lst", [] { return false; }); };
-  EXPECT_EQ(read(), std::nullopt) << "missing";
+  const auto read = [](const std::string& path = "C:\\S\\a.lst") {
+    return readVerdict(path, [] { return false; });
+  };
+  EXPECT_FALSE(read()) << "missing";
+  EXPECT_FALSE(read("C:\\S\\")) << "a folder";
   desktop.putFile("C:\\S\\a.lst", std::string(600'000, '\n') + "RUN COMPLETED\n");
-  EXPECT_EQ(read(), kCompleted);
+  EXPECT_EQ(read().value(), kCompleted);
+  EXPECT_EQ(readVerdict("C:\\S\\a.lst", [] { return true; }).value(), std::nullopt);
   desktop.failCall(Desktop::Operation::kRead, desktop.calls(Desktop::Operation::kRead) + 2,
                    {ErrorKind::kOther, 1117, "I/O error.", ""});
-  EXPECT_EQ(read(), std::nullopt) << "breaks off";
+  EXPECT_FALSE(read()) << "breaks off";
   desktop.lockFile("C:\\S\\a.lst", 1000);
-  EXPECT_EQ(read(), std::nullopt) << "locked";
-  EXPECT_EQ(readVerdict("C:\\S\\", [] { return false; }), std::nullopt) << "a folder";
+  EXPECT_FALSE(read()) << "locked";
 }
 
 }  // namespace

@@ -14,7 +14,7 @@ namespace {
 using win32::Handle;
 
 constexpr UINT kTerminated = 1;
-constexpr DWORD kPatienceMs = 2000;
+constexpr DWORD kPatienceMs = 50;
 
 /// A job object counts and ends the interpreter together with all that it starts. When the system
 /// refuses one, because this program itself runs in a job that allows none inside, the interpreter
@@ -33,7 +33,8 @@ class Win32BatchRun : public BatchRun {
     return WaitForSingleObject(interpreter_.get(), 0) == WAIT_TIMEOUT;
   }
 
-  /// Processes end a little later than they are told to, and hold their files until then.
+  /// Processes end a little later than they are told to, and hold their files until then. The wait
+  /// is short, because the windows stand still meanwhile.
   void terminate() override {
     if (!job_ || !TerminateJobObject(job_.get(), kTerminated)) {
       TerminateProcess(interpreter_.get(), kTerminated);
@@ -77,13 +78,15 @@ struct Started {
   Handle thread;
 };
 
-/// Starts the interpreter in the system's own directory, for the same reason, and held at its first
-/// instruction. A console without a window, rather than with a hidden one, leaves the windows of
-/// what the batch file starts alone.
-Result<Started> startInterpreter(const std::string& batchPath, WindowStyle style) {
+/// Starts the interpreter, held at its first instruction. A console without a window, rather than
+/// with a hidden one, leaves the windows of what the batch file starts alone.
+Result<Started> startInterpreter(const std::string& batchPath, WindowStyle style,
+                                 StartFolder folder) {
   const bool visible = style == WindowStyle::kNormalFocus;
   const std::wstring directory = win32::systemDirectory();
+  if (directory.empty()) return win32::lastError("cmd.exe");
   const std::wstring interpreter = directory + L"\\cmd.exe";
+  const wchar_t* startIn = folder == StartFolder::kSystem ? directory.c_str() : nullptr;
   std::wstring command = commandLine(interpreter, directory);
   std::wstring variables = environment(batchPath);
   STARTUPINFOW startup{};
@@ -94,7 +97,7 @@ Result<Started> startInterpreter(const std::string& batchPath, WindowStyle style
                       (visible ? CREATE_NEW_CONSOLE : CREATE_NO_WINDOW);
   PROCESS_INFORMATION process{};
   if (!CreateProcessW(interpreter.c_str(), command.data(), nullptr, nullptr, FALSE, flags,
-                      variables.data(), directory.c_str(), &startup, &process)) {
+                      variables.data(), startIn, &startup, &process)) {
     return win32::lastError(win32::fromWide(interpreter));
   }
   return Started{Handle(process.hProcess), Handle(process.hThread)};
@@ -115,8 +118,9 @@ std::string installationDirectory() {
   return win32::fromWide(path);
 }
 
-Result<std::unique_ptr<BatchRun>> startBatchFile(const std::string& path, WindowStyle style) {
-  auto started = startInterpreter(path, style);
+Result<std::unique_ptr<BatchRun>> startBatchFile(const std::string& path, WindowStyle style,
+                                                 StartFolder folder) {
+  auto started = startInterpreter(path, style, folder);
   if (!started) return started.error();
   Handle interpreter = std::move(started.value().process);
   Handle job(CreateJobObjectW(nullptr, nullptr));

@@ -29,7 +29,8 @@ std::optional<LRESULT> NativeWindow::handleInput(UINT message, WPARAM first, LPA
       if (second == 0) chooseMenuEntry(window_, LOWORD(first));
       return 0;
     case WM_CLOSE:
-      window_.requestClose();
+      // Others may ask for it while a message box or another window lies over this one.
+      if (IsWindowEnabled(handle_)) window_.requestClose();
       return 0;
     case WM_SETFOCUS:
       restoreFocus();

@@ -101,6 +101,7 @@ void PaintedControl::paintOn(HDC dc) {
 void PaintedControl::selectFont(HDC dc) {
   const Font& font = model().font();
   SelectObject(dc, stage().font(font));
+  symbolsMissing_ = false;  // ask for the symbols themselves
   symbolsMissing_ = isSymbol(font) && !fontShows(dc, caption());
   if (symbolsMissing_) SelectObject(dc, stage().font({"Arial", font.points, font.bold}));
 }
