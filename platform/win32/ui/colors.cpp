@@ -32,7 +32,7 @@ COLORREF textColor(OleColor text, OleColor ground, bool usable) {
 COLORREF groundColor(OleColor ground) {
   if (!highContrast()) return asStored(ground);
   if (marks(ground)) return GetSysColor(COLOR_HIGHLIGHT);
-  return ground == colors::kWhite ? GetSysColor(COLOR_WINDOW) : asStored(ground);
+  return GetSysColor(ground == colors::kButtonFace ? COLOR_BTNFACE : COLOR_WINDOW);
 }
 
 COLORREF groupBorderColor() {
