@@ -79,9 +79,12 @@ TEST_F(Dialogs, TheFolderBrowserBeginsAtTheFolderGiven) {
   press(open("cmdBrowseWorkDir", L"Browse"), VK_RETURN);
   EXPECT_TRUE(waitUntil([&] { return wizard.text("txtWorkDir") == folder.path(); }));
 
+  // The folder inside is the one below in the opened tree.
   HWND dialog = open("cmdBrowseWorkDir", L"Browse");
-  clickOn(FindWindowExW(dialog, nullptr, L"SysTreeView32", nullptr));
+  pressKey(VK_RIGHT);
+  pressKey(VK_DOWN);
   press(dialog, VK_RETURN);
+  EXPECT_TRUE(waitUntil([&] { return wizard.text("txtWorkDir") == folder.path() / "inner"; }));
 }
 
 }  // namespace

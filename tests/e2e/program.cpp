@@ -1,8 +1,10 @@
 #include "tests/e2e/program.h"
 
+#include <algorithm>
 #include <fstream>
 #include <sstream>
 #include <stdexcept>
+#include <vector>
 
 namespace korventally::e2e {
 namespace {
@@ -42,9 +44,16 @@ TestFolder::TestFolder(const std::wstring& name) {
   fs::create_directories(path_);
 }
 
+/// File by file: the library's remove_all never returns while another program holds one of them.
 TestFolder::~TestFolder() {
   std::error_code ignored;
-  fs::remove_all(parent_, ignored);
+  std::vector<fs::path> found;
+  for (const auto& entry : fs::recursive_directory_iterator(parent_, ignored)) {
+    found.push_back(entry.path());
+  }
+  std::for_each(found.rbegin(), found.rend(),
+                [&](const fs::path& each) { fs::remove(each, ignored); });
+  fs::remove(parent_, ignored);
 }
 
 std::string readFile(const fs::path& path) {

@@ -6,7 +6,7 @@
 namespace korventally::e2e {
 namespace {
 
-constexpr const wchar_t* kOddName = L"a & b %TEMP% ^(c)! d', e;=";
+constexpr const wchar_t* kOddName = L"a & b 5%x% ^(c)! d', e;=";
 
 /// A run in all its ways to end, with an engine that does as it is told.
 class Run : public testing::Test {
@@ -61,6 +61,12 @@ TEST_F(Run, DebugModeKeepsTheConsoleAndTheFiles) {
   EXPECT_TRUE(installation.seen("batch_file").ends_with("\"\r\npause\r\n"));
   EXPECT_EQ(readFile(study.path() / "korventally.inp"), installation.seen("control_file"));
   EXPECT_TRUE(exists("run_korventally.bat"));
+
+  // The engine's console waits in front of everything until a key is pressed.
+  HWND console = GetForegroundWindow();
+  EXPECT_TRUE(textOf(console).ends_with(L"cmd.exe"));
+  pressKey(VK_SPACE);
+  EXPECT_TRUE(waitUntil([&] { return !IsWindow(console); }));
 }
 
 TEST_F(Run, ClosingItAsksAndYesEndsTheWholeProcessTree) {
@@ -96,6 +102,8 @@ TEST_F(Run, CanBeRepeatedAndLeftWhileTheEditorOpens) {
   summary.click("cmdRUN");
   EXPECT_TRUE(waitUntil([&] { return !summary.usable("cmdRUN"); }, 3s));
   expectVerdict(summary);
+  EXPECT_TRUE(waitUntil([] { return editorShowing(L"korventally.lst") != nullptr; }));
+  closeEditors();  // Wine's interpreter holds the file for as long as the editor lives
   summary.click("cmdBack");
   program.wizard().click("cmdCancel");
   EXPECT_TRUE(program.ended());
