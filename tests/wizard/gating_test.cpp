@@ -156,6 +156,21 @@ TEST_F(Gating, TabFollowsTheForwardPath) {
   });
 }
 
+void expectNamed(const Container& container) {
+  for (const Control* child : container.children()) {
+    const bool arrow = child->text() == "\u00AE" || child->text() == "\u00AC";
+    if (arrow || child->kind() == Control::Kind::kTextBox) {
+      EXPECT_NE(child->accessibleName(), "") << child->text();
+    }
+    if (child->kind() == Control::Kind::kFrame) expectNamed(static_cast<const Frame&>(*child));
+  }
+}
+
+TEST_F(Gating, WhatHasNoCaptionHasANameForScreenReaders) {
+  inWizard([](frmKORVENTALLY& w) { expectNamed(w); });
+  inSummary([](frmRunSummary& s) { expectNamed(s); });
+}
+
 TEST_F(Gating, EveryWayOfClosingEndsTheProgram) {
   const std::function<void(frmKORVENTALLY&)> ways[] = {
       [](frmKORVENTALLY& w) { click(w.cmdCancel); },
