@@ -115,7 +115,7 @@ Status OpenFileInNotepad(const std::string& directory, const std::string& fileNa
   const std::string batch = folder + "open_file.bat";
   // An editor opened a moment ago has its batch file still in use.
   runNow(batch);
-  const Status status = retryWhileBusy(
+  Status status = retryWhileBusy(
       [&] { return writeTextFile(batch, {"notepad " + batchQuoted(folder + fileName)}); },
       interrupted);
   if (!status) return status;

@@ -15,7 +15,7 @@ namespace {
 
 /// A first line longer than any path is no configuration; reading stops there, so that a damaged
 /// file of any size costs nothing.
-constexpr std::size_t kLongestFirstLine = 4 * 32768;
+constexpr std::size_t kLongestFirstLine = 4 * std::size_t{32768};
 
 bool isControlCharacter(char c) {
   const auto code = static_cast<unsigned char>(c);

@@ -15,7 +15,7 @@ class LineReader {
  public:
   // So many bytes behind a line may be read (not used), whatever stands in them.
   static constexpr std::size_t kPadding = 64;
-  static constexpr std::size_t kBlock = 256 * 1024;
+  static constexpr std::size_t kBlock = 256 * std::size_t{1024};
 
   // A line of more than `longest_line` bytes is a Fault: a file that is not text at all must not
   // fill the memory. `file` must outlive the reader.

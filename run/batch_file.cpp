@@ -15,7 +15,7 @@ std::string batchFilePath(const AnalysisCase& theCase) {
 std::vector<std::string> batchFileLines(const AnalysisCase& theCase) {
   std::vector<std::string> lines{batchQuoted(enginePath()) + " " +
                                  batchQuoted(controlFilePath(theCase))};
-  if (theCase.DebugMode) lines.push_back("pause");
+  if (theCase.DebugMode) lines.emplace_back("pause");
   return lines;
 }
 

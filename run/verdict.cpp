@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::string_view kCompletedLine = "RUN COMPLETED";
 constexpr std::string_view kFailedLine = "RUN FAILED";
-constexpr std::size_t kChunk = 256 * 1024;
+constexpr std::size_t kChunk = 256 * std::size_t{1024};
 /// Reading a chunk takes a millisecond or so; events are handled often enough for the window to
 /// feel alive, and seldom enough not to slow the reading.
 constexpr std::uint32_t kMostWithoutEvents = 20;

@@ -53,7 +53,7 @@ std::optional<Error> obstacle(const FullPath& path) {
 Result<std::string> bytesOf(const std::vector<std::string>& lines) {
   std::string bytes;
   for (const std::string& line : lines) {
-    const Result<std::string> ansi = toAnsi(line);
+    Result<std::string> ansi = toAnsi(line);
     if (!ansi) return ansi;
     bytes += ansi.value() + "\r\n";
   }
