@@ -62,14 +62,9 @@ void ProcessingInfoStep::bindHandlers() {
 }
 
 void ProcessingInfoStep::cmdBrowseReceptorDAT_Click() {
-  wizard.cdlBrowse.Filter =
-      "Receptor DAT File (*.dat) | *.dat; |"
-      "All Files (*.*) | *.*";
-  wizard.cdlBrowse.FilterIndex = 1;
-  wizard.cdlBrowse.InitDir = wizard.workingDirectory.txtWorkDir.text();
-  wizard.cdlBrowse.FileName.clear();
-  wizard.cdlBrowse.ShowOpen();
-  txtReceptorDATFile.setText(wizard.cdlBrowse.FileName);
+  txtReceptorDATFile.setText(
+      wizard.askForFile("Receptor DAT File (*.dat) | *.dat; |"
+                        "All Files (*.*) | *.*"));
   ClearFieldHighlight(txtReceptorDATFile);
 }
 

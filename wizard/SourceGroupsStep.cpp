@@ -156,14 +156,10 @@ void SourceGroupsStep::cmdBrowseFile_Click() {
 }
 
 void SourceGroupsStep::ShowConcFileDialog() {
-  wizard.cdlBrowse.Filter =
+  wizard.askForFile(
       "Concentration File (*.con) | *.con; |"
       "Concentration File (*.dat) | *.dat; |"
-      "All Files (*.*) | *.*";
-  wizard.cdlBrowse.FilterIndex = 1;
-  wizard.cdlBrowse.InitDir = wizard.workingDirectory.txtWorkDir.text();
-  wizard.cdlBrowse.FileName.clear();
-  wizard.cdlBrowse.ShowOpen();
+      "All Files (*.*) | *.*");
 }
 
 /// A default name makes room for the name that the user is about to type.

@@ -67,6 +67,15 @@ void frmKORVENTALLY::Form_Load() {
   if (!defaultDirectory.empty()) workingDirectory.txtWorkDir.setText(defaultDirectory);
 }
 
+const std::string& frmKORVENTALLY::askForFile(const std::string& filter) {
+  cdlBrowse.Filter = filter;
+  cdlBrowse.FilterIndex = 1;
+  cdlBrowse.InitDir = workingDirectory.txtWorkDir.text();
+  cdlBrowse.FileName.clear();
+  cdlBrowse.ShowOpen();
+  return cdlBrowse.FileName;
+}
+
 void frmKORVENTALLY::mnuExit_Click() { unload(); }
 
 void frmKORVENTALLY::mnuKORVENTALLYHelp_Click() { help_.show(this); }

@@ -44,6 +44,10 @@ class frmKORVENTALLY : public Window {
   Menu mnuFile{"&File", {&mnuExit}};
   Menu mnuHelp{"&Help", {&mnuKORVENTALLYHelp, &mnuSeparator1, &mnuAboutKORVENTALLY}};
 
+  /// Shows the open-file dialog, starting in the working directory. Returns the chosen file's full
+  /// path, or the empty text when it was cancelled.
+  const std::string& askForFile(const std::string& filter);
+
   void mnuExit_Click();
   void mnuKORVENTALLYHelp_Click();
   void mnuAboutKORVENTALLY_Click();
