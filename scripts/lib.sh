@@ -96,6 +96,8 @@ display_pid=
 leave() {
   if [ -n "$own_prefix" ]; then wineserver -k 2>/dev/null || true; fi
   if [ -n "$display_pid" ]; then kill "$display_pid" 2>/dev/null || true; fi
+  own_prefix=
+  display_pid=
   last_words
 }
 last_words() { :; } # for a script that has something to say at its very end
@@ -153,6 +155,8 @@ REGISTRY
 make_prefix() { # width x height, dots per inch
   local settings=$WINEPREFIX/settings.reg
   [ -d "$WINEPREFIX/drive_c/windows" ] || timeout 240 wineboot --init
+  # Debian's Wine does not look where Debian puts its fonts, the ones for symbols among them.
+  cp /usr/share/wine/fonts/*.ttf "$WINEPREFIX/drive_c/windows/Fonts/"
   [ "$(cat "$settings" 2>/dev/null)" != "$(wine_settings "$@")" ] || return 0
   wine_settings "$@" >"$settings.new"
   timeout 60 wine regedit /S "$(windows_path "$settings.new")"
@@ -171,4 +175,41 @@ use_prefix() { # name, width x height, dots per inch
   mkdir -p "$WINEPREFIX"
   own_prefix=$WINEPREFIX
   stage "Preparing Wine in ${WINEPREFIX#"$root"/}" "wine-$1" make_prefix "${@:2}"
+}
+
+# A copy of the program beside a copy of the sample study, which it offers by its configuration
+# file: the study's folder receives the files of a run.
+prepare_copy() { # folder
+  rm -rf "$1"
+  mkdir -p "$1"
+  cp -r "$installation" "$1/KorvenTally"
+  cp -r "$root/samples" "$1/study"
+  printf 'WorkingDirectory = %s\r\n' "$(windows_path "$1/study")" >"$1/KorvenTally/Movrix.cfg"
+}
+
+# A picture of a part of the screen; it appears under its name only when it is whole.
+take_picture() { # folder, name, geometry
+  import -window root -crop "$3" +repage "$1/$2.part.png"
+  mv "$1/$2.part.png" "$1/$2.png"
+}
+
+# Has the wizard of such a copy driven by mouse and keyboard. The driver says what it does, asks for
+# pictures and waits for them. The result is the driver's.
+drive_copy() { # folder, what to do: demo or gallery
+  local line name geometry
+  while IFS= read -r line; do
+    line=${line%$'\r'}
+    read -r _ name geometry <<<"$line"
+    case $line in
+      'picture '*) take_picture "$1" "$name" "$geometry" ;;
+      'driver-ended '*) return "$name" ;;
+      *) printf '  %s\n' "$line" ;;
+    esac
+  done < <(
+    # The pipe outlives the driver, because Wine's own processes hold it too.
+    timeout 180 wine "$build/windows/tests/e2e/demo_driver.exe" "$2" "Z:$1" \
+      2>"$logs/demo-driver.log" && ended=0 || ended=$?
+    echo "driver-ended $ended"
+  )
+  return 1
 }

@@ -9,6 +9,9 @@
 namespace korventally::e2e {
 namespace {
 
+/// What a window has painted comes to the screen a little later.
+constexpr auto kUntilOnScreen = 150ms;
+
 /// The script has a camera; this has what is worth a picture.
 class Album {
  public:
@@ -20,7 +23,7 @@ class Album {
     // Painting comes after everything else that the window has to do.
     RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
     ask(window, WM_NULL);
-    Sleep(150);
+    Sleep(kUntilOnScreen.count());
     std::printf("picture %s %ldx%ld+%ld+%ld\n", name.c_str(), area.right - area.left,
                 area.bottom - area.top, area.left, area.top);
     std::fflush(stdout);
@@ -48,7 +51,8 @@ bool run(const Program& program, const Album& album) {
   album.take("6-summary", summary.window());
   say("Run summary: " + utf8(summary.text("lblAnalysisType")) + ", limit " +
       utf8(summary.text("txtNAAQSPSDLimit")) + ", SIL " + utf8(summary.text("txtSILLimit")));
-  summary.click("cmdRUN");
+  expectSoon([&] { return summary.focused("cmdRUN"); }, "RUN has the focus");
+  pressKey(VK_RETURN);
   expectSoon([&] { return summary.text("lblRunning").size() > 8; }, "the run begins");
   album.take("7-running", summary.window());
   expectSoon([&] { return !summary.text("lblStatus").empty(); }, "the engine's verdict", 60s);
@@ -57,18 +61,50 @@ bool run(const Program& program, const Album& album) {
   return isCompleted(summary);
 }
 
-bool demo(const std::wstring& how, const fs::path& folder, const fs::path& study,
-          const Album& album) {
-  const Program program(folder);
+/// Opens something with the keyboard, takes its picture and closes it again.
+void visit(const Program& program, const Album& album, const std::string& name,
+           const std::wstring& caption) {
+  HWND window = program.windowNamed(caption);
+  album.take(name, window);
+  pressKey(VK_ESCAPE);
+  expectSoon([&] { return !IsWindow(window) || !IsWindowVisible(window); }, name + " closes");
+}
+
+void visitButton(const Program& program, const Album& album, std::string_view button,
+                 const std::wstring& caption) {
+  program.wizard().tabTo(button);
+  pressKey(VK_SPACE);
+  visit(program, album, std::string(button), caption);
+}
+
+/// The windows that a walk does not pass.
+void visitTheRest(const Program& program, const Album& album) {
+  program.chooseMenu('H', 'H');
+  visit(program, album, "help", L" KORVENTALLY Help");
+  program.chooseMenu('H', 'A');
+  visit(program, album, "about", L" About KORVENTALLY...");
+  program.wizard().tabTo("txtWorkDir");
+  program.wizard().retype("txtWorkDir", L"");
+  visitButton(program, album, "cmdNext1", L"Error");
+  visitButton(program, album, "cmdBrowseWorkDir", L"Browse");
+}
+
+bool drive(const std::wstring& what, const fs::path& folder) {
+  const bool gallery = what == L"gallery";
+  const Album album(folder);
+  const Program program(folder / "KorvenTally");
   album.take("0-start", program.wizard().window());
+  if (gallery) visitTheRest(program, album);
   int page = 0;
-  const Observer observe = [&](int step, const std::string& what) {
-    say("Step " + std::to_string(step) + ": " + what);
-    const std::string suffix = step == 3 ? "-page-" + std::to_string(++page) : "";
+  const Observer observe = [&](int step, const std::string& entered) {
+    say("Step " + std::to_string(step) + ": " + entered);
+    if (step == 3) ++page;
+    const std::string suffix = step == 3 ? "-page-" + std::to_string(page) : "";
     album.take(std::to_string(step) + "-step" + suffix, program.wizard().window());
+    if (gallery && page == 1 && step == 3) visitButton(program, album, "cmdBrowseFile", L"Open");
   };
-  const Study sample{study.wstring() + L"\\"};
-  (how == L"mouse" ? walkWithMouse : walkWithKeyboard)(program, sample, observe);
+  const Study study{(folder / "study").wstring() + L"\\"};
+  (gallery ? walkWithKeyboard : walkWithMouse)(program, study, observe);
   return run(program, album);
 }
 
@@ -77,14 +113,10 @@ bool demo(const std::wstring& how, const fs::path& folder, const fs::path& study
 
 int wmain(int count, wchar_t** arguments) {
   using namespace korventally::e2e;
-  if (count != 5) return 2;
+  if (count != 3) return 2;
   SetProcessDPIAware();
   try {
-    const fs::path pictures(arguments[4]);
-    return demo(arguments[1], fs::path(arguments[2]).make_preferred(),
-                fs::path(arguments[3]).make_preferred(), Album(pictures))
-               ? 0
-               : 1;
+    return drive(arguments[1], fs::path(arguments[2]).make_preferred()) ? 0 : 1;
   } catch (const std::exception& error) {
     say(error.what());
     return 1;

@@ -9,7 +9,7 @@ namespace {
 
 constexpr int kTwipsPerInch = 1440;
 constexpr std::array kColumnTops = {120, 1080, 3120, 5880, 8520};
-constexpr Twips kColumn{11640, 0, 1455, 0};
+constexpr int kColumnLeft = 11640;
 
 int dotsPerInch() {
   const HDC screen = GetDC(nullptr);
@@ -34,8 +34,9 @@ RECT placeInParent(HWND window) {
   return place;
 }
 
-bool standsAt(HWND window, const Twips& at) {
-  const RECT place = placeInParent(window);
+bool standsAt(HWND window, const Twips& at, POINT origin) {
+  RECT place = placeInParent(window);
+  OffsetRect(&place, -origin.x, -origin.y);
   return isAt(place.left, at.left) && isAt(place.top, at.top) &&
          isAt(place.right - place.left, at.width) && isAt(place.bottom - place.top, at.height);
 }
@@ -52,6 +53,11 @@ HWND firstBelow(HWND parent, const Condition& matches) {
     if (HWND deeper = firstBelow(child, matches)) return deeper;
   }
   return nullptr;
+}
+
+HWND captionedFrame(HWND window, std::wstring_view caption) {
+  return firstBelow(
+      window, [&](HWND child) { return isFrame(child) && textOf(child).starts_with(caption); });
 }
 
 }  // namespace
@@ -97,24 +103,33 @@ HWND focusIn(HWND window) {
   return info.hwndFocus;
 }
 
+/// Where the window's top left corner has been scrolled to; its first frame tells.
+POINT Form::origin() const {
+  const Sketch& first = sketches_.front();
+  HWND window = captionedFrame(window_, first.text);
+  if (window == nullptr) return {0, 0};
+  const RECT place = placeInParent(window);
+  return {place.left - pixels(first.at.left), place.top - pixels(first.at.top)};
+}
+
 HWND Form::frame(std::wstring_view name) const {
   if (name.empty()) return window_;
-  const bool column = name.starts_with(L"column ");
-  Twips at = kColumn;
-  if (column) at.top = kColumnTops.at(static_cast<std::size_t>(name.back() - L'1'));
+  if (!name.starts_with(L"column ")) return captionedFrame(window_, name);
+  const POINT corner = origin();
+  const int top = kColumnTops.at(static_cast<std::size_t>(name.back() - L'1'));
   return firstBelow(window_, [&](HWND child) {
-    if (!isFrame(child)) return false;
-    if (!column) return textOf(child).starts_with(name);
     const RECT place = placeInParent(child);
-    return textOf(child).empty() && isAt(place.left, at.left) && isAt(place.top, at.top);
+    return isFrame(child) && textOf(child).empty() && isAt(place.left - corner.x, kColumnLeft) &&
+           isAt(place.top - corner.y, top);
   });
 }
 
 HWND Form::find(const Sketch& sketch) const {
   HWND parent = frame(sketch.frame);
+  const POINT corner = parent == window_ ? origin() : POINT{0, 0};
   HWND found = parent == nullptr ? nullptr : firstBelow(parent, [&](HWND child) {
     return GetParent(child) == parent && classOf(child) == sketch.kind &&
-           standsAt(child, sketch.at);
+           standsAt(child, sketch.at, corner);
   });
   if (found == nullptr) throw std::runtime_error("not in its place: " + std::string(sketch.name));
   return found;

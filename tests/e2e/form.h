@@ -66,6 +66,7 @@ class Form {
   void retype(std::string_view name, const std::wstring& text) const;
 
  private:
+  POINT origin() const;
   HWND frame(std::wstring_view name) const;
 
   HWND window_;
