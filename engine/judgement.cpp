@@ -23,7 +23,8 @@ struct TopTwo {
   Place first, second;
 
   void Take(const Place& place) {
-    if (place.value > first.value) {
+    // What differs by rounding alone is equal, and of equal ones the earliest is the highest.
+    if (place.value > first.value * (1 + kRounding)) {
       second = first;
       first = place;
     } else if (place.value > second.value) {

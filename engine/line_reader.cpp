@@ -26,6 +26,7 @@ bool LineReader::Next(std::string_view& line) {
   begin_ += static_cast<std::size_t>(stop - start) + (found != nullptr ? 1 : 0);
   if (stop > start && found != nullptr && stop[-1] == '\r') --stop;
   line = std::string_view(start, static_cast<std::size_t>(stop - start));
+  RequireLength(line.size());
   ++line_number_;
   return true;
 }
@@ -38,11 +39,14 @@ bool LineReader::ReadMore() {
   return count > 0;
 }
 
+void LineReader::RequireLength(std::size_t length) const {
+  if (length <= longest_line_) return;
+  throw Fault(file_.Named(line_number_ + 1) + " is longer than " + Grouped(longest_line_) +
+              " bytes; is this the right file?");
+}
+
 void LineReader::MakeRoom() {
-  if (end_ - begin_ > longest_line_) {
-    throw Fault(file_.Named(line_number_ + 1) + " is longer than " + Grouped(longest_line_) +
-                " bytes; is this the right file?");
-  }
+  RequireLength(end_ - begin_);
   std::memmove(buffer_.data(), &buffer_[begin_], end_ - begin_);
   end_ -= begin_;
   begin_ = 0;

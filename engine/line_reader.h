@@ -33,6 +33,7 @@ class LineReader {
 
  private:
   bool ReadMore();
+  void RequireLength(std::size_t length) const;
   void MakeRoom();
 
   InputFile& file_;

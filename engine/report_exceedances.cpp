@@ -13,7 +13,9 @@ namespace {
 // One group's contribution: " 1234.567 100.0".
 constexpr std::size_t kCell = 15;
 constexpr std::size_t kWidest = 132;
-constexpr std::size_t kIndent = 6;  // of the lines that a row continues on
+// Begins the lines that a row continues on. A line of blanks and one group's name could be taken
+// for the verdict: "RUN COMPLETED" is a name of 13 characters.
+constexpr const char* kContinued = "    | ";
 
 std::string Percent(double share) { return share < 999.95 ? Fixed(share, 1) : ">999"; }
 
@@ -28,7 +30,7 @@ void WriteRow(const std::string& row, const std::vector<std::string>& cells, Lis
   for (const std::string& cell : cells) {
     if (line.size() + cell.size() > kWidest) {
       list.Line(line);
-      line = std::string(kIndent, ' ');
+      line = kContinued;
     }
     line += cell;
   }

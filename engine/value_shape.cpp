@@ -5,6 +5,7 @@
 #include <array>
 #include <cstdint>
 #include <cstring>
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -26,8 +27,8 @@ struct Shape {
   unsigned spare_bits = 0;  // of eight digits, those that this shape does not have
   // The digits divided by powers[4 * e + sign] are the value; sign is 2 for exponent -e and 0 for
   // +e, the distances of "-" and "+" from "+". Powers of ten up to 10**22 are exact doubles, so
-  // the one division rounds once, and correctly. -1 stands for all others, and for the "," between
-  // "+" and "-": a value below zero is not taken.
+  // the one division rounds once, and correctly. NaN stands for all others, and for the ","
+  // between "+" and "-": a value that is none is not taken, whatever its digits.
   std::array<double, 400> powers{};
 };
 
@@ -37,7 +38,9 @@ constexpr std::size_t kFirstPower = 40 * '0' + 4 * '0' + '+';
 double PowerAt(std::size_t decimals, int index) {
   const int k = static_cast<int>(decimals), e = index / 4, sign = index % 4;
   const int power = sign == 0 ? k - e : k + e;
-  if (power < 0 || power > 22 || (sign != 0 && sign != 2)) return -1;
+  if (power < 0 || power > 22 || (sign != 0 && sign != 2)) {
+    return std::numeric_limits<double>::quiet_NaN();
+  }
   double number = 1;
   for (int i = 0; i < power; ++i) number *= 10;
   return number;
@@ -156,7 +159,7 @@ void AddShaped(std::size_t number, const char*& at, double*& sum, double* const 
     const char* const next = text + shape.length;
     if (!All(_mm_and_si128(Fitting(text, shape), Fitting(next, shape)))) break;
     const __m128d values = Values(text, next, shape);
-    if (_mm_movemask_pd(_mm_cmplt_pd(values, _mm_setzero_pd())) != 0) break;
+    if (_mm_movemask_pd(_mm_cmpnge_pd(values, _mm_setzero_pd())) != 0) break;
     _mm_storeu_pd(to, _mm_add_pd(_mm_loadu_pd(to), values));
     to += 2;
     text = next + shape.length;

@@ -30,7 +30,8 @@ std::string SystemText(DWORD error) {
   const DWORD flags = FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS;
   const DWORD size = FormatMessageW(flags, nullptr, error, 0, text, 512, nullptr);
   std::string narrow = Narrow({text, size});
-  while (!narrow.empty() && (narrow.back() <= ' ' || narrow.back() == '.')) narrow.pop_back();
+  const auto isBlank = [](char c) { return static_cast<unsigned char>(c) <= ' '; };
+  while (!narrow.empty() && (isBlank(narrow.back()) || narrow.back() == '.')) narrow.pop_back();
   for (char& c : narrow) {
     if (c == '\r' || c == '\n') c = ' ';
   }
@@ -57,9 +58,9 @@ std::wstring FullPath(const NativePath& path) {
 
 constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
-HANDLE Open(const NativePath& path, DWORD access, DWORD disposition, DWORD flags) {
-  return CreateFileW(FullPath(path).c_str(), access, kShareAll, nullptr, disposition, flags,
-                     nullptr);
+HANDLE Open(const NativePath& path, DWORD access, DWORD disposition, DWORD flags,
+            DWORD share = kShareAll) {
+  return CreateFileW(FullPath(path).c_str(), access, share, nullptr, disposition, flags, nullptr);
 }
 
 // Refuses consoles, pipes and devices such as NUL, which open like files but hold nothing.
@@ -159,7 +160,9 @@ std::size_t InputFile::Read(char* to, std::size_t size) {
 }
 
 OutputFile::OutputFile(const NativePath& path) : path_(path) {
-  const HANDLE handle = Open(path, GENERIC_WRITE, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL);
+  // Nobody else may write: the verdict of another run must not get into this list file.
+  const HANDLE handle = Open(path, GENERIC_WRITE, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL,
+                             FILE_SHARE_READ | FILE_SHARE_DELETE);
   if (handle == INVALID_HANDLE_VALUE) Fail(path_, "created", GetLastError());
   RequireDiskFile(handle, path);
   handle_ = reinterpret_cast<std::intptr_t>(handle);

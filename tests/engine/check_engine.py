@@ -215,7 +215,7 @@ def check_rows(study, rows, exceeding, significant):
     text = "\n".join(rows[rows.index(next(r for r in rows if r.startswith("---"))) + 1:])
     more = re.search(r"\n  and (\d+) exceedances? more.*$", text)
     need((int(more[1]) if more else 0) == max(0, len(exceeding) - 50), "exceedances not shown")
-    entries = re.findall(r"(?m)^ +(\d+)  R(\d+) +\S+ +\S+  (\S+ \d\d) +(\S+) +(yes|no) (.*(?:\n      .*)*)",
+    entries = re.findall(r"(?m)^ +(\d+)  R(\d+) +\S+ +\S+  (\S+ \d\d) +(\S+) +(yes|no) (.*(?:\n    \| .*)*)",
                          text[:more.start()] if more else text)
     need(len(entries) == min(50, len(exceeding)), "rows of exceedances")
     ordered = sorted((study.total[b][r] for b, r in exceeding), reverse=True)
@@ -228,7 +228,7 @@ def check_rows(study, rows, exceeding, significant):
         seen.add(place)
         same(total, exact, "total of row " + no)
         need((yes == "yes") == (place in significant), "SIL of row " + no)
-        cells = cells.split()
+        cells = cells.replace("\n    |", " ").split()
         need(len(cells) == 2 * (study.groups - 1), "cells of row " + no)
         for g in range(1, study.groups):
             own = study.own[g][place[0]][place[1]]

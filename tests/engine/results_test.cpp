@@ -133,6 +133,29 @@ TEST(Results, OfEqualValuesTheEarliestAndFirstCounts) {
   EXPECT_SAYS(list, "   2  B                300.5    -400.0  2009-01-01 00");
 }
 
+TEST(Results, OfTotalsThatOnlyRoundingTellsApartTheEarliestIsTheHighest) {
+  Study study;
+  study.line(15) = "1";
+  study.line(21) = "T";
+  // Both blocks sum up to 10, added in another order; FACILITY is there in the first one only.
+  WriteMicro(study, "all.con", {{1, 1}, {2, 2}, {7, 7}, {2, 2}, {7, 7}, {1, 1}});
+  WriteMicro(study, "group_2.con", {{5, 5}, {5, 5}, {5, 5}, {0, 0}, {0, 0}, {0, 0}});
+  EXPECT_SAYS(CompletedList(study), "Significant exceedances:      0 (");
+}
+
+TEST(Results, NeverShowAGroupsNameAsTheVerdict) {
+  Study study(6);
+  study.line(17) = "RUN COMPLETED";
+  CompletedList(study);
+  const std::vector<std::string> lines = study.List();
+  const auto isVerdict = [](const std::string& line) {
+    const std::size_t start = line.find_first_not_of(' ');
+    return start != std::string::npos && line.find("RUN COMPLETED", start) == start &&
+           line.find_last_not_of(' ') == start + 12;
+  };
+  EXPECT_EQ(std::count_if(lines.begin(), lines.end(), isVerdict), 1);
+}
+
 TEST(Results, SayWhichHoursAreNotUsed) {
   Study study;
   study.line(14) = "4";

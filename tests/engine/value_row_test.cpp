@@ -74,6 +74,7 @@ const BadRow kBadRows[] = {
     {" 1.00000E-05 1.00000E-05 x", ", value 3 is \"x\", which is not a number"},
     {" 1.00000E-05 1.0000xE-05", ", value 2 is \"1.0000xE-05\", which is not a number"},
     {" 1.00000E-05 1.00000E,05", ", value 2 is \"1.00000E\", which is not a number"},
+    {" 1.00000E-05 0.00000E,05", ", value 2 is \"0.00000E\", which is not a number"},
     {" 1.00000E-05 1.00000E-0x", ", value 2 is \"1.00000E-0x\", which is not a number"},
     {" 1.00000E-05 1,00000E-05", " holds 3 values instead of 2, one for each receptor"},
     {" 1.00000E-05 1.00000D-05", ", value 2 is \"1.00000D-05\", which is not a number"},

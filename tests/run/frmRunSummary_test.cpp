@@ -84,7 +84,7 @@ TEST_F(RunSummary, RunsTheEngineToItsVerdictAndTidiesUp) {
         EXPECT_TRUE(s.txtSpecies.usable());
         EXPECT_EQ(s.lblStatus.text(), "");
         // The wait is busy, and the engine must not pay for it.
-        EXPECT_EQ(desktop.belowNormalPriority(), when > 100);
+        EXPECT_TRUE(desktop.belowNormalPriority());
         running.push_back(s.lblRunning.text());
       });
     }
