@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "tests/e2e/walk.h"
+#include "demo/walk.h"
 
-namespace korventally::e2e {
+namespace korventally::demo {
 namespace {
 
 constexpr int kFilterList = 0x470;  // cmb1 of the system's dialog
@@ -88,4 +88,4 @@ TEST_F(Dialogs, TheFolderBrowserBeginsAtTheFolderGiven) {
 }
 
 }  // namespace
-}  // namespace korventally::e2e
+}  // namespace korventally::demo

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "tests/e2e/program.h"
+#include "demo/program.h"
 
-namespace korventally::e2e {
+namespace korventally::demo {
 
 /// A copy of the installed program in a folder of its own, with an engine that behaves as it is
 /// told: see slow_engine.cpp.
@@ -28,4 +28,4 @@ class Installation {
   TestFolder folder_;
 };
 
-}  // namespace korventally::e2e
+}  // namespace korventally::demo

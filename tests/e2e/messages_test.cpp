@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "tests/e2e/walk.h"
+#include "demo/walk.h"
 
-namespace korventally::e2e {
+namespace korventally::demo {
 namespace {
 
 /// Walks down the wizard and into every message on the way.
@@ -114,4 +114,4 @@ TEST_F(Messages, ComeInOrderWithTheirTextsTitlesAndButtons) {
 }
 
 }  // namespace
-}  // namespace korventally::e2e
+}  // namespace korventally::demo

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "tests/e2e/walk.h"
+#include "demo/walk.h"
 
-namespace korventally::e2e {
+namespace korventally::demo {
 namespace {
 
 /// The whole sample study in real windows, with the real engine, interpreter and editor.
@@ -22,12 +22,8 @@ class SampleCase : public testing::Test {
       values.push_back(dir + fs::path(study.concFiles[group]).string());
       values.push_back(names[group]);
     }
-    for (const std::string& value :
-         {std::string("1000000.0,0.0"), std::string("0"), std::string("24"), std::string("91.0"),
-          std::string("1"), dir + "receptors.dat", std::string("1"), std::string("5.0"),
-          std::string("2"), std::string("F"), std::string("0")}) {
-      values.push_back(value);
-    }
+    values.insert(values.end(), {"1000000.0,0.0", "0", "24", "91.0", "1", dir + "receptors.dat",
+                                 "1", "5.0", "2", "F", "0"});
     std::string file;
     for (const std::string& value : values) file += std::string(29, ' ') + ":" + value + "\r\n";
     return file;
@@ -96,4 +92,4 @@ TEST_F(SampleCase, RunsToItsVerdictWithTheKeyboardAlone) {
 }
 
 }  // namespace
-}  // namespace korventally::e2e
+}  // namespace korventally::demo

@@ -1,6 +1,6 @@
-#include "tests/e2e/walk.h"
+#include "demo/walk.h"
 
-namespace korventally::e2e {
+namespace korventally::demo {
 namespace {
 
 /// What a person does in a form, by one of two means.
@@ -130,4 +130,4 @@ void walkShortCase(const Program& program, const TestFolder& folder) {
   hand.press("cmdRUN");
 }
 
-}  // namespace korventally::e2e
+}  // namespace korventally::demo

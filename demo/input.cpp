@@ -1,9 +1,9 @@
-#include "tests/e2e/input.h"
+#include "demo/input.h"
 
 #include <stdexcept>
 #include <vector>
 
-namespace korventally::e2e {
+namespace korventally::demo {
 namespace {
 
 constexpr auto kPause = 10ms;
@@ -94,4 +94,4 @@ void typeText(const std::wstring& text) {
   if (!inputs.empty()) send(inputs);
 }
 
-}  // namespace korventally::e2e
+}  // namespace korventally::demo

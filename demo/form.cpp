@@ -1,10 +1,10 @@
-#include "tests/e2e/form.h"
+#include "demo/form.h"
 
 #include <algorithm>
 #include <array>
 #include <stdexcept>
 
-namespace korventally::e2e {
+namespace korventally::demo {
 namespace {
 
 constexpr int kTwipsPerInch = 1440;
@@ -172,4 +172,4 @@ void Form::retype(std::string_view name, const std::wstring& text) const {
   expectSoon([&] { return this->text(name) == text; }, std::string(name) + " shows what was typed");
 }
 
-}  // namespace korventally::e2e
+}  // namespace korventally::demo

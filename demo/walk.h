@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
-#include "tests/e2e/program.h"
+#include "demo/program.h"
 
-namespace korventally::e2e {
+namespace korventally::demo {
 
 /// What a person enters for the sample study, as samples/README.md tells.
 struct Study {
@@ -28,4 +28,4 @@ void walkWithKeyboard(const Program& program, const Study& study, const Observer
 /// The shortest case, two groups with all options as they are, to the open run summary.
 void walkShortCase(const Program& program, const TestFolder& study);
 
-}  // namespace korventally::e2e
+}  // namespace korventally::demo

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <windows.h>
-
 #include <chrono>
 #include <functional>
 #include <string>
 
-namespace korventally::e2e {
+#include "platform/win32/ui/system_headers.h"
+
+namespace korventally::demo {
 
 using namespace std::chrono_literals;
 
@@ -23,4 +23,4 @@ void clickAt(POINT screen);
 void pressKey(WORD key, WORD modifier = 0);
 void typeText(const std::wstring& text);
 
-}  // namespace korventally::e2e
+}  // namespace korventally::demo

@@ -1,4 +1,4 @@
-#include "tests/e2e/program.h"
+#include "demo/program.h"
 
 #include <algorithm>
 #include <fstream>
@@ -6,7 +6,7 @@
 #include <stdexcept>
 #include <vector>
 
-namespace korventally::e2e {
+namespace korventally::demo {
 namespace {
 
 constexpr const wchar_t* kWizardCaption = L" KorvenTally [";
@@ -159,4 +159,4 @@ void closeEditors() {
   }
 }
 
-}  // namespace korventally::e2e
+}  // namespace korventally::demo

@@ -1,14 +1,13 @@
 #pragma once
 
-#include <windows.h>
-
 #include <span>
 #include <string>
 #include <string_view>
 
-#include "tests/e2e/input.h"
+#include "demo/input.h"
+#include "platform/win32/ui/system_headers.h"
 
-namespace korventally::e2e {
+namespace korventally::demo {
 
 /// A place in twentieths of a point, fifteen to the pixel at 96 dots per inch.
 struct Twips {
@@ -73,4 +72,4 @@ class Form {
   std::span<const Sketch> sketches_;
 };
 
-}  // namespace korventally::e2e
+}  // namespace korventally::demo

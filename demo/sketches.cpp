@@ -1,6 +1,6 @@
-#include "tests/e2e/form.h"
+#include "demo/form.h"
 
-namespace korventally::e2e {
+namespace korventally::demo {
 namespace {
 
 constexpr std::wstring_view kButton = L"button";
@@ -120,4 +120,4 @@ const std::span<const Sketch> kWizard{kWizardSketches};
 const std::span<const Sketch> kSummary{kSummarySketches};
 const std::span<const Sketch> kAbout{kAboutSketches};
 
-}  // namespace korventally::e2e
+}  // namespace korventally::demo

@@ -4,9 +4,9 @@
 #include <cstdio>
 #include <exception>
 
-#include "tests/e2e/walk.h"
+#include "demo/walk.h"
 
-namespace korventally::e2e {
+namespace korventally::demo {
 namespace {
 
 /// What a window has painted comes to the screen a little later.
@@ -109,10 +109,10 @@ bool drive(const std::wstring& what, const fs::path& folder) {
 }
 
 }  // namespace
-}  // namespace korventally::e2e
+}  // namespace korventally::demo
 
 int wmain(int count, wchar_t** arguments) {
-  using namespace korventally::e2e;
+  using namespace korventally::demo;
   if (count != 3) return 2;
   SetProcessDPIAware();
   try {

@@ -4,9 +4,9 @@
 #include <memory>
 #include <string>
 
-#include "tests/e2e/form.h"
+#include "demo/form.h"
 
-namespace korventally::e2e {
+namespace korventally::demo {
 
 namespace fs = std::filesystem;
 
@@ -75,4 +75,4 @@ void answer(const Message& message, int button);
 HWND editorShowing(const std::wstring& fileName);
 void closeEditors();
 
-}  // namespace korventally::e2e
+}  // namespace korventally::demo
