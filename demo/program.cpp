@@ -101,8 +101,6 @@ HWND Program::find(const std::wstring& caption) const {
   return search.found;
 }
 
-bool Program::hasWindowNamed(const std::wstring& caption) const { return find(caption) != nullptr; }
-
 HWND Program::windowNamed(const std::wstring& caption) const {
   HWND window = nullptr;
   expectSoon(

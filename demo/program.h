@@ -49,7 +49,6 @@ class Program {
 
   /// Waits for a window of the program with this caption; throws when none opens.
   HWND windowNamed(const std::wstring& caption) const;
-  bool hasWindowNamed(const std::wstring& caption) const;
   /// Opens a menu of the wizard and an entry in it by their access keys.
   void chooseMenu(wchar_t menu, wchar_t entry) const;
   bool ended(std::chrono::milliseconds limit = 10s) const;

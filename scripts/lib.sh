@@ -175,6 +175,9 @@ use_prefix() { # name, width x height, dots per inch
   mkdir -p "$WINEPREFIX"
   own_prefix=$WINEPREFIX
   stage "Preparing Wine in ${WINEPREFIX#"$root"/}" "wine-$1" make_prefix "${@:2}"
+  # On a display of the script's own nobody else starts and ends programs, and the server stays for
+  # the next one: one that is about to end resets the connections of those that come too late.
+  [ -z "$display_pid" ] || wineserver -p || true
 }
 
 # A copy of the program beside a copy of the sample study, which it offers by its configuration
