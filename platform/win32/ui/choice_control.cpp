@@ -31,8 +31,11 @@ void ChoiceControl::paint(HDC dc, const RECT& area) {
   const std::wstring text = caption();
   const OleColor ground = model().container()->backColor();
   SetTextColor(dc, textColor(model().foreColor(), ground, model().usable()));
+  // At some resolutions a caption grows a little more than its place; set closer, it still fits.
+  if (captionSize(dc).cx > textArea.right - textArea.left) SetTextCharacterExtra(dc, -1);
   DrawTextW(dc, text.c_str(), static_cast<int>(text.size()), &textArea,
             DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
+  SetTextCharacterExtra(dc, 0);
   if (!showsFocus()) return;
   const SIZE size = captionSize(dc);
   const LONG top = std::max(area.top, (area.bottom - size.cy) / 2 - 1);
