@@ -63,7 +63,8 @@ class Values {
     const bool fits = number && (*number > 0 || (zero_allowed && *number == 0));
     if (!fits || *number > kLargestConcentration) {
       FailAt(line_, "gives the " + std::string(what) + " as " + Quoted(value) +
-                        "; it must be a number " + (zero_allowed ? "not below" : "above") + " 0");
+                        "; it must be a number " + (zero_allowed ? "not below" : "above") + " 0" +
+                        (number && *number > 0 ? " and at most 1e15" : ""));
     }
     return *number;
   }
@@ -135,11 +136,9 @@ ControlText ReadControlText(const NativePath& path) {
   InputFile file(path);
   LineReader reader(file, 65536);
   ControlText text;
-  for (std::string_view line; reader.Next(line);) {
+  // The rest of such a file is left unread; its number of lines is a fault of the case.
+  for (std::string_view line; text.lines.size() <= kMostLines && reader.Next(line);) {
     text.lines.emplace_back(line);
-    if (text.lines.size() > kMostLines) {
-      throw Fault("The file " + TextFromPath(path) + " is too long to be a control file.");
-    }
   }
   text.complete = reader.complete();
   return text;

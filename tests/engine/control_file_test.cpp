@@ -76,6 +76,7 @@ const BadLine kBadLines[] = {
     {14, "annual", "a whole number from 1 to 8784"},
     {14, "0", "a whole number from 1 to 8784"},
     {14, "8785", "a whole number from 1 to 8784"},
+    {15, "1e16", "must be a number above 0 and at most 1e15"},
     {15, "", "standard or increment as \"\"; it must be a number above 0"},
     {15, "0", "standard or increment as \"0\""},
     {15, "inf", "standard or increment as \"inf\""},
