@@ -31,8 +31,9 @@ void ChoiceControl::paint(HDC dc, const RECT& area) {
   const std::wstring text = caption();
   const OleColor ground = model().container()->backColor();
   SetTextColor(dc, textColor(model().foreColor(), ground, model().usable()));
-  // At some resolutions a caption grows a little more than its place; set closer, it still fits.
-  if (captionSize(dc).cx > textArea.right - textArea.left) SetTextCharacterExtra(dc, -1);
+  // Above 96 dpi a caption may grow a little more than its place; set closer, it still fits.
+  const bool tooWide = captionSize(dc).cx > textArea.right - textArea.left;
+  if (tooWide && stage().dpi() > USER_DEFAULT_SCREEN_DPI) SetTextCharacterExtra(dc, -1);
   DrawTextW(dc, text.c_str(), static_cast<int>(text.size()), &textArea,
             DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
   SetTextCharacterExtra(dc, 0);
