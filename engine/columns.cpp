@@ -23,9 +23,10 @@ std::string Right(std::string_view text, std::size_t width) {
 
 std::string Fixed(double number, int decimals, int widest) {
   char text[400];
-  if (std::snprintf(text, sizeof text, "%.*f", decimals, number) > widest) {
-    std::snprintf(text, sizeof text, "%.*E", widest - 6, number);
+  for (; decimals >= 0; --decimals) {
+    if (std::snprintf(text, sizeof text, "%.*f", decimals, number) <= widest) return text;
   }
+  std::snprintf(text, sizeof text, "%.*E", widest - 6, number);
   return text;
 }
 

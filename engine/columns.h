@@ -11,7 +11,8 @@ namespace korventally::engine {
 std::string Left(std::string_view text, std::size_t width);
 std::string Right(std::string_view text, std::size_t width);
 
-// The number with so many decimals; with an exponent instead where that is wider than `widest`.
+// The number with so many decimals, or with as many as fit into `widest`; with an exponent where
+// not even its whole part fits.
 std::string Fixed(double number, int decimals, int widest = 10);
 
 // The number in the fewest digits that give it back: 91 for 91.0, 0.2 for 0.2.

@@ -178,6 +178,27 @@ Case ParseControl(const ControlText& text) {
   return the_case;
 }
 
+namespace {
+
+// Whether a line, counted from 1, may name a file. In a sound case these are known; in any other
+// every line may turn out to be a path, so every one of them counts.
+bool MayNameAFile(const ControlText& text, std::size_t line) {
+  constexpr std::size_t kGroupsLine = 5;
+  const std::size_t lines = text.lines.size();
+  if (lines < 16 + 2 * kFewestGroups || !text.lines[kGroupsLine - 1].starts_with(kPrefix))
+    return true;
+  const auto groups =
+      ParseWhole(std::string_view(text.lines[kGroupsLine - 1]).substr(kPrefix.size()));
+  if (!groups || *groups < kFewestGroups || lines != 16 + 2 * static_cast<std::size_t>(*groups)) {
+    return true;
+  }
+  const std::size_t past = kGroupsLine + 2 * static_cast<std::size_t>(*groups);
+  const bool concentrations = line > kGroupsLine && line <= past && line % 2 == 0;
+  return concentrations || line == past + 6;
+}
+
+}  // namespace
+
 void RefuseListFileAmongInputs(const ControlText& text, const NativePath& control_file) {
   const std::string list_text = ListFileOf(text);
   const NativePath list_file = PathFromText(list_text);
@@ -185,8 +206,8 @@ void RefuseListFileAmongInputs(const ControlText& text, const NativePath& contro
     throw Fault("The list file " + list_text + " is also " + what + "; it was left as it is.");
   };
   if (SameFile(list_file, control_file)) refuse("the control file");
-  // Any line may turn out to be a path once the rest is sound, so every one of them counts.
   for (std::size_t i = 1; i < text.lines.size(); ++i) {
+    if (!MayNameAFile(text, i + 1)) continue;
     const std::string_view line = text.lines[i];
     const std::size_t colon = line.find(':');
     const std::string_view value = colon == line.npos ? line : line.substr(colon + 1);

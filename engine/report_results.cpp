@@ -37,12 +37,22 @@ void ReportMisfit(const Names& names, const Averages& averages, const Misfit& mi
             ". The files may belong to different model runs.");
 }
 
+// Metres want one decimal, kilometres all those that the receptor file gives.
+std::string Coordinate(double value) {
+  constexpr int kWidest = 9;
+  const std::string exact = Shortest(value);
+  const std::size_t point = exact.find('.');
+  const bool finer = point != std::string::npos && exact.size() - point > 2;
+  const bool plain = exact.find('e') == std::string::npos;
+  return finer && plain && exact.size() <= kWidest ? exact : Fixed(value, 1, kWidest);
+}
+
 }  // namespace
 
 std::string PlaceColumns(const Names& names, const Place& place) {
   const Receptor& receptor = names.receptors[place.receptor];
-  return Left(receptor.id, 12) + Right(Fixed(receptor.x, 1, 9), 10) +
-         Right(Fixed(receptor.y, 1, 9), 10) + "  " +
+  return Left(receptor.id, 12) + Right(Coordinate(receptor.x), 10) +
+         Right(Coordinate(receptor.y), 10) + "  " +
          DateText(names.blocks.StartOf(static_cast<std::int64_t>(place.block)));
 }
 

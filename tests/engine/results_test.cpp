@@ -143,6 +143,14 @@ TEST(Results, OfTotalsThatOnlyRoundingTellsApartTheEarliestIsTheHighest) {
   EXPECT_SAYS(CompletedList(study), "Significant exceedances:      0 (");
 }
 
+TEST(Results, ShowWhereAReceptorLies) {
+  Study study;
+  study.Write("receptors.dat", "-1234567.8 345.123 A\n4123456.7 -0.25 B\n");
+  const std::string list = CompletedList(study);
+  EXPECT_SAYS(list, "A             -1234568   345.123");
+  EXPECT_SAYS(list, "B            4123456.7     -0.25");
+}
+
 TEST(Results, NeverShowAGroupsNameAsTheVerdict) {
   Study study(6);
   study.line(17) = "RUN COMPLETED";

@@ -66,6 +66,16 @@ TEST(Run, NeverEmptiesAFileThatItWasToldToRead) {
   EXPECT_NE(study.Read("korventally.inp"), "");
 }
 
+TEST(Run, TakesAValueForAPathOnlyWhereItMayBeOne) {
+  Study study;
+  study.line(2) = study.line(1);
+  EXPECT_EQ(study.Run().sentence, "");
+  EXPECT_EQ(study.LastLine(), "RUN COMPLETED");
+  // With a line too many, nobody knows which value is which.
+  study.control.push_back("0");
+  EXPECT_EQ(study.Run().outcome, Outcome::kNoListFile);
+}
+
 TEST(Run, SeesThroughOtherSpellingsOfTheSameFile) {
   Study study;
   std::filesystem::create_directory(study.Path("sub"));

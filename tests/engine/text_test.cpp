@@ -44,9 +44,12 @@ TEST(Text, NumbersInWords) {
 TEST(Columns, NumbersKeepTheirWidth) {
   EXPECT_EQ(Fixed(91.00004, 4), "91.0000");
   EXPECT_EQ(Fixed(12345.67894, 4), "12345.6789");
-  EXPECT_EQ(Fixed(123456.789, 4), "1.2346E+05");
+  EXPECT_EQ(Fixed(123456.789, 4), "123456.789");
+  EXPECT_EQ(Fixed(-1234567.8, 1, 9), "-1234568");
+  EXPECT_EQ(Fixed(12345678901.0, 4), "1.2346E+10");
   EXPECT_EQ(Fixed(1234.5678, 3, 8), "1234.568");
-  EXPECT_EQ(Fixed(12345.678, 3, 8), "1.23E+04");
+  EXPECT_EQ(Fixed(12345.678, 3, 8), "12345.68");
+  EXPECT_EQ(Fixed(123456789.0, 3, 8), "1.23E+08");
   EXPECT_EQ(Shortest(91.0), "91");
   EXPECT_EQ(Shortest(0.2), "0.2");
 }
