@@ -9,7 +9,6 @@
 #include "platform/files.h"
 #include "platform/later.h"
 #include "platform/process.h"
-#include "platform/window.h"
 
 namespace korventally {
 namespace {
@@ -90,6 +89,13 @@ void FilterDecimalKey(std::int16_t& keyCode) {
 
 void FilterDigitKey(std::int16_t& keyCode) {
   if (isPrintable(keyCode) && !isDigit(keyCode)) keyCode = 0;
+}
+
+void MoveOnAtEnter(Window& window, std::int16_t& keyCode) {
+  constexpr std::int16_t kEnter = 13;
+  if (keyCode != kEnter) return;
+  window.moveFocus();
+  keyCode = 0;
 }
 
 void WaitMilliseconds(std::int16_t duration, const std::function<bool()>& interrupted) {

@@ -10,6 +10,7 @@
 #include "platform/label.h"
 #include "platform/result.h"
 #include "platform/text_box.h"
+#include "platform/window.h"
 
 namespace korventally {
 
@@ -39,6 +40,9 @@ void SwitchStep(const ControlGroup& controlsToClose, const FieldGroup& fieldsToC
 /// becomes 0, which discards it. Control keys and characters above 127 pass.
 void FilterDecimalKey(std::int16_t& keyCode);
 void FilterDigitKey(std::int16_t& keyCode);
+
+/// Enter in a box moves the focus on as Tab does, and is discarded.
+void MoveOnAtEnter(Window& window, std::int16_t& keyCode);
 
 /// Waits at least `duration` milliseconds, busily, while events are handled: any other handler may
 /// run before it returns. A duration of zero or less returns at once. Ends early once `interrupted`

@@ -10,7 +10,6 @@ namespace korventally {
 namespace {
 
 constexpr const char* kUnit = "ug/m**3";
-constexpr std::int16_t kEnter = 13;
 
 AnalysisCase& theCase() { return basModule::analysisCase; }
 
@@ -21,10 +20,7 @@ frmRunSummary::frmRunSummary() : Window(" KORVENTALLY Run Information:", {6615, 
                &chkAutoOpen});
   const auto limitKey = [this](std::int16_t& keyCode) {
     FilterDecimalKey(keyCode);
-    if (keyCode == kEnter) {
-      moveFocus();
-      keyCode = 0;
-    }
+    MoveOnAtEnter(*this, keyCode);
   };
   txtNAAQSPSDLimit.onKeyPress = limitKey;
   txtSILLimit.onKeyPress = limitKey;

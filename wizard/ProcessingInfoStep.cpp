@@ -7,7 +7,6 @@
 namespace korventally {
 namespace {
 
-constexpr std::int16_t kEnter = 13;
 constexpr const char* kNoPlaceholder = "";
 constexpr std::size_t kYearDigits = 4;
 
@@ -51,9 +50,7 @@ void ProcessingInfoStep::bindHandlers() {
   for (TextBox* box : {&txtYear, &txtMonth, &txtDay, &txtHour, &txtRunLength}) {
     box->onKeyPress = [this](std::int16_t& keyCode) {
       FilterDigitKey(keyCode);
-      if (keyCode != kEnter) return;
-      wizard.moveFocus();
-      keyCode = 0;
+      MoveOnAtEnter(wizard, keyCode);
     };
   }
   cmdBrowseReceptorDAT.onClick = [this] { cmdBrowseReceptorDAT_Click(); };

@@ -92,13 +92,9 @@ void frmKORVENTALLY::cmdBackToTop_Click() {
 }
 
 WizardStep* frmKORVENTALLY::openStep() const {
-  auto* self = const_cast<frmKORVENTALLY*>(this);
-  for (WizardStep* step : std::initializer_list<WizardStep*>{
-           &self->workingDirectory, &self->analysisType, &self->sourceGroups, &self->processingInfo,
-           &self->outputFile}) {
-    if (step->isOpen()) return step;
-  }
-  return nullptr;
+  const auto open = std::find_if(steps_.begin(), steps_.end(),
+                                 [](const WizardStep* step) { return step->isOpen(); });
+  return open == steps_.end() ? nullptr : *open;
 }
 
 Control* frmKORVENTALLY::preferredFocus() const {

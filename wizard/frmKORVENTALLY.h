@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+
 #include "info/frmAboutKORVENTALLY.h"
 #include "info/frmKORVENTALLYHelp.h"
 #include "platform/dialogs.h"
@@ -62,6 +64,9 @@ class frmKORVENTALLY : public Window {
  private:
   std::vector<Control*> forwardTabOrder();
   WizardStep* openStep() const;
+
+  const std::array<WizardStep*, 5> steps_{&workingDirectory, &analysisType, &sourceGroups,
+                                          &processingInfo, &outputFile};
 
   frmAboutKORVENTALLY about_;
   frmKORVENTALLYHelp help_;
