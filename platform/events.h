@@ -17,6 +17,11 @@ void processPendingEvents();
 /// every window.
 void runEventsWhile(const std::function<bool()>& goOn);
 
+/// Has `runDue` called `delay` milliseconds from now, also while a message box, a dialog or a menu
+/// of the system's is open, which handle events in a loop of their own. Takes the place of an
+/// earlier request.
+void callRunDueIn(std::uint32_t delay);
+
 /// While one exists, this thread runs below normal priority, so that a busy wait does not cost the
 /// process that is waited for.
 class BelowNormalPriority {

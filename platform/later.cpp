@@ -51,6 +51,7 @@ void runAndRemove(std::vector<Action>::iterator action) {
 void runLater(std::string name, std::uint32_t delay, std::function<void()> action) {
   std::erase_if(actions(), [&](const Action& planned) { return planned.name == name; });
   actions().push_back({std::move(name), tickCount(), delay, std::move(action)});
+  callRunDueIn(nextAction()->remaining());
 }
 
 void runNow(const std::string& name) {

@@ -42,6 +42,9 @@ void runEventsWhile(const std::function<bool()>& goOn) {
   }
 }
 
+/// Every yield does it, and no time passes in a dialog.
+void callRunDueIn(std::uint32_t) {}
+
 BelowNormalPriority::BelowNormalPriority() { ++world().lowPriorities; }
 BelowNormalPriority::~BelowNormalPriority() { --world().lowPriorities; }
 

@@ -1,5 +1,6 @@
 #include <exception>
 
+#include "platform/win32/ui/session.h"
 #include "platform/win32/ui/system_function.h"
 #include "platform/win32/ui/system_headers.h"
 #include "wizard/program.h"
@@ -18,6 +19,7 @@ void loadFromSystemFolderOnly() {
 /// The program, or the one thing that can still be said when it cannot go on.
 int run() {
   try {
+    const korventally::win32::SessionWatch watch;
     return korventally::runProgram();
   } catch (const std::exception&) {
     MessageBoxW(nullptr, L"KorvenTally has run out of memory and has to close.", L"Error", MB_OK);

@@ -43,9 +43,12 @@ class MessagePump {
   std::optional<int> quit_;
 };
 
-void sleepUntilEvent() {
-  const DWORD longest = untilNextDue().value_or(INFINITE);
-  MsgWaitForMultipleObjectsEx(0, nullptr, longest, QS_ALLINPUT, MWMO_INPUTAVAILABLE);
+UINT_PTR dueTimer = 0;
+
+void CALLBACK timerWentOff(HWND, UINT, UINT_PTR, DWORD) {
+  runDue();
+  if (const auto next = untilNextDue()) return callRunDueIn(*next);
+  KillTimer(nullptr, dueTimer);
 }
 
 }  // namespace
@@ -66,8 +69,12 @@ void runEventsWhile(const std::function<bool()>& goOn) {
   while (goOn()) {
     runDue();
     if (!goOn()) return;
-    if (!pump.handleNext()) sleepUntilEvent();
+    if (!pump.handleNext()) WaitMessage();
   }
+}
+
+void callRunDueIn(std::uint32_t delay) {
+  dueTimer = SetTimer(nullptr, dueTimer, delay, timerWentOff);
 }
 
 BelowNormalPriority::BelowNormalPriority() {

@@ -85,7 +85,8 @@ std::optional<LRESULT> NativeWindow::handleSurroundings(UINT message, WPARAM fir
       [[fallthrough]];
     case WM_SYSCOLORCHANGE:
     case WM_THEMECHANGED:
-      RedrawWindow(handle_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+      RedrawWindow(handle_, nullptr, nullptr,
+                   RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
       return std::nullopt;
     default:
       return std::nullopt;

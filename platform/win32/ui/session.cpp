@@ -32,6 +32,12 @@ void endNow() {
   hurryLater();
 }
 
+/// The windows that are open object to the end; this one only hears of it.
+LRESULT CALLBACK watch(HWND window, UINT message, WPARAM first, LPARAM second) {
+  if (message == WM_ENDSESSION) return *handleSessionEnd(window, message, first);
+  return DefWindowProcW(window, message, first, second);
+}
+
 }  // namespace
 
 std::optional<LRESULT> handleSessionEnd(HWND window, UINT message, WPARAM first) {
@@ -41,5 +47,17 @@ std::optional<LRESULT> handleSessionEnd(HWND window, UINT message, WPARAM first)
   if (first) endNow();
   return 0;
 }
+
+SessionWatch::SessionWatch() {
+  WNDCLASSW type{};
+  type.lpfnWndProc = watch;
+  type.hInstance = GetModuleHandleW(nullptr);
+  type.lpszClassName = L"KorvenTallySessionWatch";
+  RegisterClassW(&type);
+  window_ = CreateWindowExW(WS_EX_TOOLWINDOW, type.lpszClassName, L"", WS_POPUP, 0, 0, 0, 0,
+                            nullptr, nullptr, type.hInstance, nullptr);
+}
+
+SessionWatch::~SessionWatch() { DestroyWindow(window_); }
 
 }  // namespace korventally::win32

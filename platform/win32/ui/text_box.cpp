@@ -4,8 +4,10 @@
 
 #include "platform/win32/system/text.h"
 #include "platform/win32/ui/clipboard.h"
+#include "platform/win32/ui/colors.h"
 #include "platform/win32/ui/native_control.h"
 #include "platform/win32/ui/system_headers.h"
+#include "platform/win32/ui/text_margins.h"
 #include "platform/window.h"
 
 namespace korventally::win32 {
@@ -13,6 +15,7 @@ namespace {
 
 constexpr WPARAM kControlA = 1;
 constexpr WPARAM kDelete = 127;
+constexpr UINT kWithMargins = RDW_INVALIDATE | RDW_FRAME;
 
 std::wstring textOf(HWND window) {
   std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
@@ -46,6 +49,7 @@ class NativeTextBox : public NativeControl {
       NativeControl::refresh(aspect);
       fromCode_ = false;
     }
+    if (aspect == Aspect::kBackColor) RedrawWindow(handle(), nullptr, nullptr, kWithMargins);
     // Whoever goes on typing does so behind the text that was put there.
     if (aspect == Aspect::kText) SendMessageW(handle(), EM_SETSEL, 0x7FFFFFFF, 0x7FFFFFFF);
   }
@@ -63,7 +67,8 @@ class NativeTextBox : public NativeControl {
         drop(takeDroppedFile(reinterpret_cast<HDROP>(first)));
         return 0;
     }
-    return NativeControl::onMessage(message, first, second);
+    const LRESULT answer = NativeControl::onMessage(message, first, second);
+    return extend(answer, message, second);
   }
 
   void command(WORD code) override {
@@ -71,6 +76,23 @@ class NativeTextBox : public NativeControl {
   }
 
  private:
+  /// Adds the margins to what the system has answered.
+  LRESULT extend(LRESULT answer, UINT message, LPARAM second) {
+    const POINTS onScreen = MAKEPOINTS(second);
+    switch (message) {
+      case WM_NCCALCSIZE:
+        // A rectangle, or a structure that begins with one.
+        margins_.takeFrom(*reinterpret_cast<RECT*>(second), handle());
+        break;
+      case WM_NCPAINT:
+        margins_.paint(handle(), groundColor(box_.backColor()));
+        break;
+      case WM_NCHITTEST:
+        return margins_.contain(handle(), {onScreen.x, onScreen.y}) ? HTCLIENT : answer;
+    }
+    return answer;
+  }
+
   bool takesCharacter(WPARAM code) {
     if (stage().closed()) return false;
     if (code == kControlA) SendMessageW(handle(), EM_SETSEL, 0, -1);
@@ -114,6 +136,7 @@ class NativeTextBox : public NativeControl {
   }
 
   TextBox& box_;
+  TextMargins margins_;
   bool fromCode_ = false;
 };
 

@@ -1,0 +1,161 @@
+#include <gtest/gtest.h>
+#include <windows.h>
+// Needs the types of the header above.
+#include <shellapi.h>
+#include <shlobj.h>
+
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
+#include <thread>
+
+#include "platform/dialogs.h"
+#include "platform/later.h"
+#include "platform/win32/system/text.h"
+#include "platform/win32/ui/native_lookup.h"
+#include "platform/win32/ui/session.h"
+#include "tests/platform/contract/form.h"
+#include "tests/platform/contract/world.h"
+
+namespace korventally::testing {
+namespace {
+
+using win32::nativeHandle;
+
+/// Files as Explorer hands them to the window that they are dropped on.
+HDROP dropped(const std::wstring& path) {
+  const std::size_t bytes = (path.size() + 2) * sizeof(wchar_t);
+  HGLOBAL memory = GlobalAlloc(GHND, sizeof(DROPFILES) + bytes);
+  auto* header = static_cast<DROPFILES*>(GlobalLock(memory));
+  header->pFiles = sizeof(DROPFILES);
+  header->fWide = TRUE;
+  path.copy(reinterpret_cast<wchar_t*>(header + 1), path.size());
+  GlobalUnlock(memory);
+  return static_cast<HDROP>(memory);
+}
+
+void drop(const Control& on, const std::wstring& path) {
+  SendMessageW(nativeHandle(on), WM_DROPFILES, reinterpret_cast<WPARAM>(dropped(path)), 0);
+}
+
+bool acceptsFiles(const Control& control) {
+  return GetWindowLongW(nativeHandle(control), GWL_EXSTYLE) & WS_EX_ACCEPTFILES;
+}
+
+SIZE outerSize(const Control& control) {
+  RECT area;
+  GetWindowRect(nativeHandle(control), &area);
+  return {area.right - area.left, area.bottom - area.top};
+}
+
+/// What the system does to the windows that do not belong to it.
+class Surroundings : public ::testing::Test {
+ protected:
+  void moveToScreenOf(int dpi) {
+    const RECT suggested{10, 20, 30, 40};
+    SendMessageW(nativeHandle(form), WM_DPICHANGED, MAKEWPARAM(dpi, dpi),
+                 reinterpret_cast<LPARAM>(&suggested));
+  }
+
+  World world;
+  Form form;
+};
+
+TEST_F(Surroundings, DroppedFilesFillABoxForPaths) {
+  form.box.setTakesPath();
+  form.box.setText("before");
+  form.open([&] {
+    EXPECT_TRUE(acceptsFiles(form.box));
+    EXPECT_FALSE(acceptsFiles(form.shortBox));
+    drop(form.box, L"C:\\Grün & Co\\a.con");
+    EXPECT_EQ(form.box.text(), "C:\\Grün & Co\\a.con");
+    form.box.setEnabled(false);
+    drop(form.box, L"C:\\other");
+    EXPECT_EQ(form.box.text(), "C:\\Grün & Co\\a.con");
+  });
+}
+
+TEST_F(Surroundings, ScreensOfOtherResolutionsScaleEverything) {
+  form.open([&] {
+    for (const int dpi : {144, 192, 120, 96}) {
+      SCOPED_TRACE(dpi);
+      moveToScreenOf(dpi);
+      EXPECT_EQ(outerSize(form.box).cx, 200 * dpi / 96);
+      EXPECT_EQ(outerSize(form.last).cy, MulDiv(25, dpi, 96));
+      RECT client;
+      GetClientRect(nativeHandle(form), &client);
+      EXPECT_EQ(client.right, 600 * dpi / 96);
+      LOGFONTW font{};
+      GetObjectW(reinterpret_cast<HFONT>(SendMessageW(nativeHandle(form.box), WM_GETFONT, 0, 0)),
+                 sizeof font, &font);
+      EXPECT_EQ(font.lfHeight, -MulDiv(static_cast<int>(form.box.font().points * 100), dpi, 7200));
+    }
+  });
+}
+
+TEST_F(Surroundings, TextStandsInTheMiddleOfItsBox) {
+  form.open([&] {
+    moveToScreenOf(192);
+    HWND box = nativeHandle(form.box);
+    RECT outer;
+    RECT inner;
+    GetWindowRect(box, &outer);
+    GetClientRect(box, &inner);
+    MapWindowPoints(box, nullptr, reinterpret_cast<POINT*>(&inner), 2);
+    EXPECT_GT(inner.top - outer.top, 4);
+    EXPECT_NEAR(inner.top - outer.top, outer.bottom - inner.bottom, 1);
+    // What lies above the text takes the mouse like the text.
+    const LPARAM above = MAKELPARAM(inner.left + 5, inner.top - 1);
+    EXPECT_EQ(SendMessageW(box, WM_NCHITTEST, 0, above), HTCLIENT);
+  });
+}
+
+/// Closes the message box of this thread if nothing else has done so in time.
+class Rescue {
+ public:
+  explicit Rescue(const wchar_t* title)
+      : thread_([title, thread = GetCurrentThreadId()](const std::stop_token& stop) {
+          std::mutex mutex;
+          std::unique_lock lock(mutex);
+          std::condition_variable_any ended;
+          ended.wait_for(lock, stop, std::chrono::seconds(5), [] { return false; });
+          if (!stop.stop_requested()) PostMessageW(FindWindowW(nullptr, title), WM_CLOSE, 0, 0);
+        }) {}
+
+ private:
+  std::jthread thread_;
+};
+
+TEST_F(Surroundings, WhatIsDueIsDoneWhileAMessageBoxIsOpen) {
+  const Rescue rescue(L"Still open");
+  bool done = false;
+  bool openThen = false;
+  runLater("later", 100, [&] {
+    done = true;
+    HWND box = FindWindowW(nullptr, L"Still open");
+    openThen = box != nullptr;
+    PostMessageW(box, WM_CLOSE, 0, 0);
+  });
+  messageBox(nullptr, "Text", "Still open");
+  EXPECT_TRUE(done);
+  EXPECT_TRUE(openThen);
+}
+
+TEST_F(Surroundings, TheEndOfTheSessionIsHeardWithoutAWindow) {
+  const win32::SessionWatch watch;
+  bool hurried = false;
+  runLater("left to do", 3000, [&] { hurried = timeIsUp(); });
+  runLater("log off", 0, [] {
+    const auto end = [](HWND window, LPARAM) -> BOOL {
+      EXPECT_TRUE(SendMessageW(window, WM_QUERYENDSESSION, 0, 0));
+      SendMessageW(window, WM_ENDSESSION, TRUE, 0);
+      return TRUE;
+    };
+    EnumThreadWindows(GetCurrentThreadId(), end, 0);
+  });
+  finishLater();
+  EXPECT_TRUE(hurried);
+}
+
+}  // namespace
+}  // namespace korventally::testing
