@@ -1,0 +1,108 @@
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "demo/walk.h"
+#include "tests/e2e/installation.h"
+
+namespace korventally::demo {
+namespace {
+
+/// A string of the version resource, as Explorer shows it among a file's details.
+std::wstring versionString(const fs::path& file, const std::wstring& name) {
+  std::vector<char> data(GetFileVersionInfoSizeW(file.c_str(), nullptr));
+  if (!GetFileVersionInfoW(file.c_str(), 0, static_cast<DWORD>(data.size()), data.data()))
+    return {};
+  void* value = nullptr;
+  UINT length = 0;
+  const std::wstring block = L"\\StringFileInfo\\040904b0\\" + name;
+  if (!VerQueryValueW(data.data(), block.c_str(), &value, &length)) return {};
+  return static_cast<const wchar_t*>(value);
+}
+
+/// Puts text on the clipboard, as "Copy as path" does.
+void copy(const std::wstring& text) {
+  HGLOBAL memory = GlobalAlloc(GHND, (text.size() + 1) * sizeof(wchar_t));
+  text.copy(static_cast<wchar_t*>(GlobalLock(memory)), text.size());
+  GlobalUnlock(memory);
+  expectSoon([] { return OpenClipboard(nullptr) != 0; }, "the clipboard can be opened");
+  EmptyClipboard();
+  SetClipboardData(CF_UNICODETEXT, memory);
+  CloseClipboard();
+}
+
+/// What the program answers when the system tells all its windows of the end of the session.
+bool toldOfSessionEnd(const Form& anyWindow, UINT message, WPARAM first) {
+  struct Told {
+    DWORD process;
+    UINT message;
+    WPARAM first;
+    bool agreed;
+  } told{0, message, first, true};
+  GetWindowThreadProcessId(anyWindow.window(), &told.process);
+  const auto tell = [](HWND window, LPARAM parameter) -> BOOL {
+    auto& to = *reinterpret_cast<Told*>(parameter);
+    DWORD process = 0;
+    GetWindowThreadProcessId(window, &process);
+    if (process == to.process && !ask(window, to.message, to.first)) to.agreed = false;
+    return TRUE;
+  };
+  EnumWindows(tell, reinterpret_cast<LPARAM>(&told));
+  return told.agreed;
+}
+
+TEST(Citizen, TellsWhatItIs) {
+  const fs::path exe = installation() / "KorvenTallyWizard.exe";
+  EXPECT_EQ(versionString(exe, L"ProductName"), L"KorvenTally");
+  EXPECT_EQ(versionString(exe, L"ProductVersion"), L"1.2");
+  EXPECT_EQ(versionString(exe, L"OriginalFilename"), exe.filename().wstring());
+  EXPECT_TRUE(versionString(exe, L"FileDescription").starts_with(L"KorvenTally \x2013 "));
+}
+
+TEST(Citizen, PastedPathsLoseTheirQuotes) {
+  const TestFolder folder;
+  const std::wstring file = folder.workDir() + L"a.con";
+  writeFile(file, "any bytes");
+  const Program program;
+  const Form wizard = program.wizard();
+  const auto expectPasted = [&](std::string_view box, const std::wstring& path) {
+    wizard.enter(box, L"replaced");
+    pressKey('A', VK_CONTROL);
+    copy(L"\"" + path + L"\"\r\n");
+    pressKey('V', VK_CONTROL);
+    EXPECT_TRUE(waitUntil([&] { return wizard.text(box) == path; }, 3s)) << wizard.text(box);
+  };
+  expectPasted("txtWorkDir", folder.path().wstring());
+  wizard.click("cmdNext1");
+  wizard.click("cmdNext2");
+  expectPasted("txtConcFile", file);
+  wizard.click("cmdNextGroup");
+  expectPasted("txtConcFile", file);
+  wizard.click("cmdNext3");
+  expectPasted("txtReceptorDATFile", file);
+}
+
+TEST(Citizen, ObjectsToTheEndOfTheSessionDuringARunAndLeavesNothing) {
+  const Installation installation("never ends");
+  const TestFolder study;
+  const Program program(installation.path());
+  EXPECT_TRUE(toldOfSessionEnd(program.wizard(), WM_QUERYENDSESSION, 0));
+  walkShortCase(program, study);
+  const Form summary = program.summary();
+  summary.click("cmdRUN");
+  const fs::path helper = installation.path() / "helper_lives";
+  ASSERT_TRUE(waitUntil([&] { return fs::exists(helper); }));
+  EXPECT_FALSE(toldOfSessionEnd(summary, WM_QUERYENDSESSION, 0));
+  toldOfSessionEnd(summary, WM_ENDSESSION, FALSE);  // the person has gone back to work
+  EXPECT_TRUE(fs::exists(study.path() / "korventally.inp"));
+  EXPECT_FALSE(summary.usable("cmdRUN"));
+
+  toldOfSessionEnd(summary, WM_ENDSESSION, TRUE);
+  EXPECT_FALSE(fs::exists(study.path() / "korventally.inp"));
+  EXPECT_FALSE(fs::exists(study.path() / "run_korventally.bat"));
+  std::error_code refused;
+  EXPECT_TRUE(waitUntil([&] { return fs::remove(helper, refused); }, 5s)) << "still held";
+}
+
+}  // namespace
+}  // namespace korventally::demo
