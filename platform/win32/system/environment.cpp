@@ -33,11 +33,12 @@ std::vector<std::wstring> currentEntries() {
 std::wstring environmentWith(const std::vector<Variable>& additions) {
   std::vector<std::wstring> entries = currentEntries();
   for (const auto& [name, value] : additions) {
-    const std::wstring added = name + L"=" + value;
+    std::wstring added = name;
+    added.append(L"=").append(value);
     std::erase_if(entries, [&](const std::wstring& entry) {
       return compareNames(entry, added) == CSTR_EQUAL;
     });
-    entries.push_back(added);
+    entries.push_back(std::move(added));
   }
   // The system looks variables up by halving a sorted block.
   std::stable_sort(entries.begin(), entries.end(), [](const auto& left, const auto& right) {

@@ -21,17 +21,17 @@ bool isAbsolute(const std::wstring& path) {
 }  // namespace
 
 std::wstring nativePath(const std::string& path) {
-  const std::wstring plain = toWide(path);
+  std::wstring plain = toWide(path);
   if (plain.size() + 1 < MAX_PATH) return plain;
   // A path with the prefix is taken literally, so it is tidied up first.
-  const std::wstring full = resolve(plain);
+  std::wstring full = resolve(plain);
   if (full.starts_with(L"\\\\?\\") || full.starts_with(L"\\\\.\\")) return full;
   if (full.starts_with(L"\\\\")) return L"\\\\?\\UNC" + full.substr(1);
   return isAbsolute(full) ? L"\\\\?\\" + full : plain;
 }
 
 std::string fullPath(const std::string& path) {
-  const std::wstring plain = toWide(path);
+  std::wstring plain = toWide(path);
   return plain.empty() || isAbsolute(plain) ? path : fromWide(resolve(plain));
 }
 

@@ -45,7 +45,7 @@ std::optional<std::string> encodeFaithfully(std::string_view utf8) {
   const UINT codePage = GetACP();
   const auto text = decode(CP_UTF8, MB_ERR_INVALID_CHARS, utf8);
   if (!text) return std::nullopt;
-  const auto bytes = encode(codePage, strictFlags(codePage), *text);
+  auto bytes = encode(codePage, strictFlags(codePage), *text);
   if (!bytes || decode(codePage, 0, *bytes) != text) return std::nullopt;
   return bytes;
 }
