@@ -5,6 +5,13 @@
 #include "platform/win32/ui/session.h"
 
 namespace korventally::win32 {
+namespace {
+
+/// Pixels at 96 dpi that come into view around the control with the focus: as much as there is
+/// between a box and the left edge of the window, or the caption of a frame above it.
+constexpr int kAround = 32;
+
+}  // namespace
 
 LRESULT CALLBACK NativeWindow::procedure(HWND handle, UINT message, WPARAM first, LPARAM second) {
   auto* self = reinterpret_cast<NativeWindow*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
@@ -39,6 +46,7 @@ std::optional<LRESULT> NativeWindow::handleInput(UINT message, WPARAM first, LPA
       RECT area;
       GetWindowRect(reinterpret_cast<HWND>(second), &area);
       MapWindowPoints(nullptr, handle_, reinterpret_cast<POINT*>(&area), 2);
+      InflateRect(&area, stage_.scaled(kAround), stage_.scaled(kAround));
       scroller_.reveal(area);
       return 0;
     }

@@ -6,13 +6,11 @@ namespace korventally::win32 {
 namespace {
 
 constexpr int kLinesPerPage = 10;
-/// Kept visible around a part that is brought into view.
-constexpr LONG kMargin = 8;
 
 /// The nearest position that shows the stretch from `start` to `end`; its start comes first.
 LONG showing(LONG at, LONG page, LONG start, LONG end) {
-  at = std::max(at, end + kMargin - page);
-  return std::min(at, start - kMargin);
+  at = std::max(at, end - page);
+  return std::min(at, start);
 }
 
 }  // namespace
