@@ -20,8 +20,7 @@ class frmKORVENTALLYHelp : public Window {
   Label Label12{*this,
                 {240, 480, 5655, 540},
                 "KORVENTALLY provides source contribution results for Class I and Class II "
-                "NAAQS/SIL and PSD/SIL "
-                "analyses based on EPA standards.",
+                "NAAQS/SIL and PSD/SIL analyses based on EPA standards.",
                 Align::kLeft,
                 fonts::kDefault,
                 colors::kNavy};
@@ -51,10 +50,8 @@ class frmKORVENTALLYHelp : public Window {
   Label Label8{*this,
                {240, 3480, kTextWidth, 900},
                "Class I Area - As defined in the Clean Air Act, the following areas that existed "
-               "on August 7, "
-               "1977: national parks over 6,000 acres, national wilderness areas and national "
-               "memorial parks "
-               "over 5,000 acres, and international parks.",
+               "on August 7, 1977: national parks over 6,000 acres, national wilderness areas and "
+               "national memorial parks over 5,000 acres, and international parks.",
                Align::kLeft,
                fonts::kDefault,
                colors::kNavy};

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "platform/container.h"
 #include "platform/win32/ui/colors.h"
+#include "platform/win32/ui/gdi.h"
 #include "platform/win32/ui/theme.h"
 
 namespace korventally::win32 {
@@ -25,11 +25,11 @@ void ChoiceControl::refresh(Aspect aspect) {
 }
 
 void ChoiceControl::paint(HDC dc, const RECT& area) {
-  paintGround(dc, area);
+  const OleColor ground = model().backColor();
+  fill(dc, area, groundColor(ground));
   RECT textArea = area;
   textArea.left += paintMark(dc, area) + stage().scaled(kGap);
   const std::wstring text = caption();
-  const OleColor ground = model().container()->backColor();
   SetTextColor(dc, textColor(model().foreColor(), ground, model().usable()));
   // Above 96 dpi a caption may grow a little more than its place; set closer, it still fits.
   const bool tooWide = captionSize(dc).cx > textArea.right - textArea.left;
