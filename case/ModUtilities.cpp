@@ -1,5 +1,6 @@
 #include "case/ModUtilities.h"
 
+#include <algorithm>
 #include <memory>
 #include <utility>
 
@@ -140,6 +141,12 @@ std::string trimBlanks(std::string_view text) {
   const std::size_t first = text.find_first_not_of(' ');
   if (first == std::string_view::npos) return {};
   return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
+}
+
+std::size_t characterCount(std::string_view text) {
+  // In UTF-8 every character has one byte that does not continue another one.
+  return static_cast<std::size_t>(
+      std::count_if(text.begin(), text.end(), [](char c) { return (c & 0xC0) != 0x80; }));
 }
 
 std::string joinPath(const std::string& folder, const std::string& name) {

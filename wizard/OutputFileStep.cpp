@@ -73,9 +73,11 @@ bool OutputFileStep::checkListFile() {
   }
   if (!fileExists(theCase().WorkDir + name)) return true;
   HighlightField(txtLSTFilename);
-  return messageBox(&wizard,
-                    "The selected output filename already exists. Do you wish to overwrite it?",
-                    kWarningTitle, Buttons::kYesNo) == Answer::kYes;
+  const Answer overwrite = messageBox(
+      &wizard, "The selected output filename already exists. Do you wish to overwrite it?",
+      kWarningTitle, Buttons::kYesNo);
+  if (overwrite == Answer::kNo) offerToCorrect(txtLSTFilename);
+  return overwrite == Answer::kYes;
 }
 
 std::vector<std::string> OutputFileStep::inputFiles() const {

@@ -12,7 +12,7 @@ constexpr std::size_t kYearDigits = 4;
 
 /// Makes a lone digit two.
 void PadTwoDigits(TextBox& box) {
-  if (box.text().size() == 1) box.setText("0" + box.text());
+  if (characterCount(box.text()) == 1) box.setText("0" + box.text());
 }
 
 void emptyOnFocus(TextBox& box, const std::string& placeholder) {
@@ -97,7 +97,7 @@ bool ProcessingInfoStep::checkYear() {
     refuse(txtYear, "Please enter a Year for the start time.");
     return false;
   }
-  if (txtYear.text().size() != kYearDigits) {
+  if (characterCount(txtYear.text()) != kYearDigits) {
     refuse(txtYear, "The Year must be in the format YYYY.");
     return false;
   }

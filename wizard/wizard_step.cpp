@@ -12,6 +12,10 @@ void WizardStep::switchTo(WizardStep& next) {
 void WizardStep::refuse(TextBox& box, const std::string& message) {
   HighlightField(box);
   messageBox(&wizard, message, kErrorTitle);
+  offerToCorrect(box);
+}
+
+void WizardStep::offerToCorrect(TextBox& box) {
   wizard.setFocus(box);
   box.selectAll();
 }

@@ -33,6 +33,9 @@ class WizardStep {
   /// Marks the box, says what is wrong and puts the focus into the box.
   void refuse(TextBox& box, const std::string& message);
 
+  /// Puts the focus into the box with its text selected, for another one to be typed.
+  void offerToCorrect(TextBox& box);
+
   frmKORVENTALLY& wizard;
 };
 

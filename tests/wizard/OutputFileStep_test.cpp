@@ -99,6 +99,7 @@ TEST_F(OutputFile, AsksBeforeAnExistingListFileIsOverwritten) {
     desktop.expectMessage(kOverwrite, "Warning", Answer::kNo);
     click(w.cmdRUN);
     EXPECT_EQ(box.backColor(), colors::kYellow);
+    EXPECT_EQ(w.focused(), &box) << "for another name";
     EXPECT_EQ(theCase.WorkDir, kStudy) << "taken before any check";
     EXPECT_EQ(theCase.ListFile, "");
     desktop.expectMessage(kOverwrite, "Warning", Answer::kYes);

@@ -21,6 +21,7 @@ TEST_F(ProcessingInfo, ChecksItsBoxesInOrderOneAtATime) {
         {step.txtYear, "YYYY", "Please enter a Year for the start time."},
         {step.txtYear, "", "Please enter a Year for the start time."},
         {step.txtYear, "208", "The Year must be in the format YYYY."},
+        {step.txtYear, "20ä", "The Year must be in the format YYYY."},
         {step.txtYear, "0000", ""},
         {step.txtMonth, "MM", "Please enter a Month for the start time."},
         {step.txtMonth, "", "Please enter a Month for the start time."},
