@@ -89,9 +89,8 @@ OutputFile::OutputFile(const NativePath& path) : path_(path) {
   if (handle_ < 0) Fail(path_, "created", errno);
 }
 
-OutputFile::~OutputFile() {
-  if (handle_ >= 0) ::close(Descriptor(handle_));
-}
+// What the system held back until now was asked for by Flush().
+OutputFile::~OutputFile() { ::close(Descriptor(handle_)); }
 
 void OutputFile::Append(std::string_view text) {
   const int error = WriteAll(Descriptor(handle_), text);
@@ -112,13 +111,6 @@ void OutputFile::ReplaceFrom(std::uint64_t place, std::string_view text) {
 
 void OutputFile::Flush() {
   if (::fsync(Descriptor(handle_)) != 0 && errno != EINVAL) Fail(path_, "written", errno);
-}
-
-void OutputFile::Close() {
-  if (handle_ < 0) return;
-  const int descriptor = Descriptor(handle_);
-  handle_ = -1;
-  if (::close(descriptor) != 0) Fail(path_, "closed", errno);
 }
 
 void ArmCrashNotice(const OutputFile& file, std::string_view notice) {

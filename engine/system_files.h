@@ -72,9 +72,6 @@ class OutputFile {
   // Returns once the system has put everything on the disk.
   void Flush();
 
-  // Closes the file and reports what the system held back until then. Later calls do nothing.
-  void Close();
-
   std::uint64_t size() const { return size_; }
 
  private:

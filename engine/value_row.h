@@ -12,7 +12,7 @@ namespace korventally::engine {
 inline constexpr double kLargestValue = 1e9;
 
 // Reads lines whose values usually look alike. Once a value of the form "1.23456E-05" was met,
-// values of that very shape are read eight bytes at a time; every other value goes through
+// values of that very shape are read two at a time (value_shape.h); every other value goes through
 // std::from_chars. Both ways give the same, correctly rounded double.
 class ValueRow {
  public:

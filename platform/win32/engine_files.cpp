@@ -168,9 +168,8 @@ OutputFile::OutputFile(const NativePath& path) : path_(path) {
   handle_ = reinterpret_cast<std::intptr_t>(handle);
 }
 
-OutputFile::~OutputFile() {
-  if (handle_ != -1) CloseHandle(Handle(handle_));
-}
+// What the system held back until now was asked for by Flush().
+OutputFile::~OutputFile() { CloseHandle(Handle(handle_)); }
 
 void OutputFile::Append(std::string_view text) {
   const DWORD error = WriteAll(Handle(handle_), text);
@@ -189,13 +188,6 @@ void OutputFile::ReplaceFrom(std::uint64_t place, std::string_view text) {
 
 void OutputFile::Flush() {
   if (!FlushFileBuffers(Handle(handle_))) Fail(path_, "written", GetLastError());
-}
-
-void OutputFile::Close() {
-  if (handle_ == -1) return;
-  const HANDLE handle = Handle(handle_);
-  handle_ = -1;
-  if (!CloseHandle(handle)) Fail(path_, "closed", GetLastError());
 }
 
 void ArmCrashNotice(const OutputFile& file, std::string_view notice) {
