@@ -94,4 +94,14 @@ void typeText(const std::wstring& text) {
   if (!inputs.empty()) send(inputs);
 }
 
+void copyText(const std::wstring& text) {
+  HGLOBAL memory = GlobalAlloc(GHND, (text.size() + 1) * sizeof(wchar_t));
+  text.copy(static_cast<wchar_t*>(GlobalLock(memory)), text.size());
+  GlobalUnlock(memory);
+  expectSoon([] { return OpenClipboard(nullptr) != 0; }, "the clipboard can be opened");
+  EmptyClipboard();
+  SetClipboardData(CF_UNICODETEXT, memory);
+  CloseClipboard();
+}
+
 }  // namespace korventally::demo

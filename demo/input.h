@@ -23,4 +23,7 @@ void clickAt(POINT screen);
 void pressKey(WORD key, WORD modifier = 0);
 void typeText(const std::wstring& text);
 
+/// Puts text on the clipboard, as "Copy" does in another program.
+void copyText(const std::wstring& text);
+
 }  // namespace korventally::demo

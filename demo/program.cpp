@@ -12,21 +12,9 @@ namespace {
 constexpr const wchar_t* kWizardCaption = L" KorvenTally [";
 constexpr const wchar_t* kDialogClass = L"#32770";
 
-/// A top-level window of a process whose caption begins like this, or none.
-struct Search {
-  DWORD process;
-  std::wstring caption;
-  HWND found;
-};
-
-BOOL CALLBACK look(HWND window, LPARAM parameter) {
-  auto& search = *reinterpret_cast<Search*>(parameter);
-  DWORD process = 0;
-  GetWindowThreadProcessId(window, &process);
-  if (process != search.process || !IsWindowVisible(window)) return TRUE;
-  if (!textOf(window).starts_with(search.caption)) return TRUE;
-  search.found = window;
-  return FALSE;
+BOOL CALLBACK collect(HWND window, LPARAM windows) {
+  reinterpret_cast<std::vector<HWND>*>(windows)->push_back(window);
+  return TRUE;
 }
 
 std::wstring withoutAccessKey(std::wstring caption) {
@@ -95,10 +83,32 @@ Program::~Program() {
   closeEditors();
 }
 
+std::vector<HWND> Program::windows() const {
+  std::vector<HWND> all;
+  EnumWindows(collect, reinterpret_cast<LPARAM>(&all));
+  std::erase_if(all, [this](HWND window) {
+    DWORD process = 0;
+    GetWindowThreadProcessId(window, &process);
+    return process != process_.dwProcessId;
+  });
+  return all;
+}
+
 HWND Program::find(const std::wstring& caption) const {
-  Search search{process_.dwProcessId, caption, nullptr};
-  EnumWindows(look, reinterpret_cast<LPARAM>(&search));
-  return search.found;
+  for (HWND window : windows()) {
+    if (IsWindowVisible(window) && textOf(window).starts_with(caption)) return window;
+  }
+  return nullptr;
+}
+
+bool Program::agreesToSessionEnd() const {
+  const std::vector<HWND> all = windows();
+  return std::all_of(all.begin(), all.end(),
+                     [](HWND window) { return ask(window, WM_QUERYENDSESSION) != 0; });
+}
+
+void Program::tellSessionEnd(bool ends) const {
+  for (HWND window : windows()) ask(window, WM_ENDSESSION, ends);
 }
 
 HWND Program::windowNamed(const std::wstring& caption) const {

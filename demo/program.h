@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "demo/form.h"
 
@@ -53,8 +54,15 @@ class Program {
   void chooseMenu(wchar_t menu, wchar_t entry) const;
   bool ended(std::chrono::milliseconds limit = 10s) const;
 
+  /// What the system asks and tells all windows of a program when the person logs off. In the end
+  /// the session ends, or somebody has objected and it goes on.
+  bool agreesToSessionEnd() const;
+  void tellSessionEnd(bool ends) const;
+
  private:
   HWND find(const std::wstring& caption) const;
+  /// All top-level windows of the program, those that nobody sees included.
+  std::vector<HWND> windows() const;
 
   PROCESS_INFORMATION process_{};
   HWND window_ = nullptr;

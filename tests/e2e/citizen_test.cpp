@@ -20,37 +20,6 @@ std::wstring versionString(const fs::path& file, const std::wstring& name) {
   return static_cast<const wchar_t*>(value);
 }
 
-/// Puts text on the clipboard, as "Copy as path" does.
-void copy(const std::wstring& text) {
-  HGLOBAL memory = GlobalAlloc(GHND, (text.size() + 1) * sizeof(wchar_t));
-  text.copy(static_cast<wchar_t*>(GlobalLock(memory)), text.size());
-  GlobalUnlock(memory);
-  expectSoon([] { return OpenClipboard(nullptr) != 0; }, "the clipboard can be opened");
-  EmptyClipboard();
-  SetClipboardData(CF_UNICODETEXT, memory);
-  CloseClipboard();
-}
-
-/// What the program answers when the system tells all its windows of the end of the session.
-bool toldOfSessionEnd(const Form& anyWindow, UINT message, WPARAM first) {
-  struct Told {
-    DWORD process;
-    UINT message;
-    WPARAM first;
-    bool agreed;
-  } told{0, message, first, true};
-  GetWindowThreadProcessId(anyWindow.window(), &told.process);
-  const auto tell = [](HWND window, LPARAM parameter) -> BOOL {
-    auto& to = *reinterpret_cast<Told*>(parameter);
-    DWORD process = 0;
-    GetWindowThreadProcessId(window, &process);
-    if (process == to.process && !ask(window, to.message, to.first)) to.agreed = false;
-    return TRUE;
-  };
-  EnumWindows(tell, reinterpret_cast<LPARAM>(&told));
-  return told.agreed;
-}
-
 TEST(Citizen, TellsWhatItIs) {
   const fs::path exe = installation() / "KorvenTallyWizard.exe";
   EXPECT_EQ(versionString(exe, L"ProductName"), L"KorvenTally");
@@ -68,7 +37,7 @@ TEST(Citizen, PastedPathsLoseTheirQuotes) {
   const auto expectPasted = [&](std::string_view box, const std::wstring& path) {
     wizard.enter(box, L"replaced");
     pressKey('A', VK_CONTROL);
-    copy(L"\"" + path + L"\"\r\n");
+    copyText(L"\"" + path + L"\"\r\n");
     pressKey('V', VK_CONTROL);
     EXPECT_TRUE(waitUntil([&] { return wizard.text(box) == path; }, 3s)) << wizard.text(box);
   };
@@ -86,18 +55,18 @@ TEST(Citizen, ObjectsToTheEndOfTheSessionDuringARunAndLeavesNothing) {
   const Installation installation("never ends");
   const TestFolder study;
   const Program program(installation.path());
-  EXPECT_TRUE(toldOfSessionEnd(program.wizard(), WM_QUERYENDSESSION, 0));
+  EXPECT_TRUE(program.agreesToSessionEnd());
   walkShortCase(program, study);
   const Form summary = program.summary();
   summary.click("cmdRUN");
   const fs::path helper = installation.path() / "helper_lives";
   ASSERT_TRUE(waitUntil([&] { return fs::exists(helper); }));
-  EXPECT_FALSE(toldOfSessionEnd(summary, WM_QUERYENDSESSION, 0));
-  toldOfSessionEnd(summary, WM_ENDSESSION, FALSE);  // the person has gone back to work
+  EXPECT_FALSE(program.agreesToSessionEnd());
+  program.tellSessionEnd(false);  // the person has gone back to work
   EXPECT_TRUE(fs::exists(study.path() / "korventally.inp"));
   EXPECT_FALSE(summary.usable("cmdRUN"));
 
-  toldOfSessionEnd(summary, WM_ENDSESSION, TRUE);
+  program.tellSessionEnd(true);
   EXPECT_FALSE(fs::exists(study.path() / "korventally.inp"));
   EXPECT_FALSE(fs::exists(study.path() / "run_korventally.bat"));
   std::error_code refused;
