@@ -21,6 +21,9 @@ bool fileExists(const std::string& path);
 /// folder but the root of a drive lists itself.
 bool folderListsEntries(const std::string& path);
 
+/// Whether both paths lead to one existing file, however they spell it.
+bool sameFile(const std::string& one, const std::string& other);
+
 /// Deletes a file. Deleting one that is not there fails with kNotFound.
 Status deleteFile(const std::string& path);
 

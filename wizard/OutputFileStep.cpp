@@ -52,9 +52,8 @@ void OutputFileStep::cmdDefault_LST_Click() { txtLSTFilename.setText(kDefaultLis
 void OutputFileStep::cmdPrevious5_Click() { switchTo(wizard.processingInfo); }
 
 void OutputFileStep::cmdRUN_Click() {
-  if (!checkYear()) return;
   theCase().WorkDir = wizard.workingDirectory.txtWorkDir.text();
-  if (!checkListFile()) return;
+  if (!checkYear() || !checkListFile()) return;
   CaptureCase();
   DeriveLimits(theCase());
   frmRunSummary().show(&wizard);

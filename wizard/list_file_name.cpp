@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "case/ModUtilities.h"
+#include "platform/files.h"
 
 namespace korventally {
 namespace {
@@ -13,7 +14,7 @@ constexpr std::array kDevices = {"con", "prn", "aux", "nul", "conin$", "conout$"
 constexpr std::array kNumberedDevices = {"com", "lpt"};
 constexpr std::array kOwnFiles = {"korventally.inp", "run_korventally.bat", "open_file.bat"};
 
-/// ASCII only: names that differ in the case of other letters are told apart by the file system.
+/// ASCII only, as the names are that it is compared with.
 std::string lowerCase(std::string text) {
   for (char& c : text) {
     if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
@@ -45,14 +46,6 @@ bool isOwnFile(const std::string& name) {
   return std::find(kOwnFiles.begin(), kOwnFiles.end(), plain) != kOwnFiles.end();
 }
 
-/// Windows drops the blanks at the end of a name, so they do not tell two files apart.
-bool isAnyOf(const std::vector<std::string>& inputs, const std::string& path) {
-  const std::string plain = lowerCase(path.substr(0, path.find_last_not_of(' ') + 1));
-  return std::any_of(inputs.begin(), inputs.end(), [&](const std::string& input) {
-    return lowerCase(trimBlanks(input)) == plain;
-  });
-}
-
 }  // namespace
 
 std::string objectionToListFile(const std::string& workDir, const std::string& name,
@@ -68,7 +61,8 @@ std::string objectionToListFile(const std::string& workDir, const std::string& n
   if (isOwnFile(name)) {
     return "A run writes a file of its own under this name. Please choose another name.";
   }
-  if (isAnyOf(inputs, workDir + name)) {
+  const auto isListFile = [&](const std::string& input) { return sameFile(input, workDir + name); };
+  if (std::any_of(inputs.begin(), inputs.end(), isListFile)) {
     return "This case reads a file of this name, and a run would delete it. Please choose another "
            "name.";
   }

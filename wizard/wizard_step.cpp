@@ -16,7 +16,10 @@ void WizardStep::refuse(TextBox& box, const std::string& message) {
 }
 
 void WizardStep::offerToCorrect(TextBox& box) {
+  // The focus empties a box of its placeholder when the person goes there, which nobody has done.
+  const std::string text = box.text();
   wizard.setFocus(box);
+  box.setText(text);
   box.selectAll();
 }
 

@@ -97,6 +97,14 @@ bool folderListsEntries(const std::string& path) {
   return !isRoot || !world().files.entries(node->path).empty();
 }
 
+bool sameFile(const std::string& one, const std::string& other) {
+  const auto node = [](const std::string& path) -> const Node* {
+    const auto full = resolve(path);
+    return full ? world().files.find(full.value().text) : nullptr;
+  };
+  return node(one) != nullptr && node(one) == node(other);
+}
+
 Status deleteFile(const std::string& path) {
   const auto full = resolve(path);
   if (!full) return full.error();

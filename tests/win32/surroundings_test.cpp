@@ -72,6 +72,8 @@ TEST_F(Surroundings, DroppedFilesFillABoxForPaths) {
     form.box.setEnabled(false);
     drop(form.box, L"C:\\other");
     EXPECT_EQ(form.box.text(), "C:\\Grün & Co\\a.con");
+    drop(form.shortBox, L"C:\\longer");
+    EXPECT_EQ(form.shortBox.text(), "C:\\longer") << "the limit is one of typing";
   });
 }
 

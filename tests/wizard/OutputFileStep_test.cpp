@@ -80,7 +80,7 @@ TEST_F(OutputFile, RefusesAPastedYearThatIsNoNumberOnTheAnnualPathOnly) {
     w.analysisType.optAnnual.select();
     expectError("The Year must be in the format YYYY.");
     click(w.cmdRUN);
-    EXPECT_EQ(theCase.WorkDir, "");
+    EXPECT_EQ(theCase.WorkDir + theCase.ListFile, kStudy);
     EXPECT_TRUE(w.outputFile.isOpen());
     click(w.outputFile.cmdPrevious5);
     EXPECT_EQ(w.processingInfo.txtYear.backColor(), colors::kYellow);
@@ -135,8 +135,9 @@ TEST_F(OutputFile, ANewRunReplacesEditedLimits) {
   });
 }
 
-TEST(ListFileName, IsAPlainFileOfTheWorkingDirectoryThatNobodyElseUses) {
-  const std::vector<std::string> inputs = {"C:\\Study\\G1.con", "D:\\x\\other.con"};
+TEST_F(OutputFile, NameIsAPlainFileOfTheWorkingDirectoryThatNobodyElseUses) {
+  const std::vector<std::string> inputs = {"C:/Study/.\\G1.con", "D:\\x\\other.con"};
+  desktop.putFile(inputs[1], "");
   for (const char* good : {"korventally.lst", "a b.lst", " lead.lst", "trail.lst ", "console.lst",
                            "com10.lst", "nul1", "g2.con", "other.con", ".lst", "a%b!&.lst"}) {
     EXPECT_EQ(objectionToListFile("C:\\Study\\", good, inputs), "") << good;
@@ -178,13 +179,15 @@ TEST(ListFileName, IsAPlainFileOfTheWorkingDirectoryThatNobodyElseUses) {
 TEST_F(OutputFile, ABadNameIsRefusedBeforeAnythingIsAsked) {
   inWizard([&](frmKORVENTALLY& w) {
     walkToOutput(w);
-    w.outputFile.txtLSTFilename.setText("recept.dat");
-    expectError(
-        "This case reads a file of this name, and a run would delete it. Please choose another "
-        "name.");
-    click(w.cmdRUN);
-    EXPECT_EQ(w.outputFile.txtLSTFilename.backColor(), colors::kYellow);
-    EXPECT_EQ(theCase.ListFile, "");
+    for (const char* name : {"recept.dat", "g1.con", "g2.con"}) {
+      w.outputFile.txtLSTFilename.setText(name);
+      expectError(
+          "This case reads a file of this name, and a run would delete it. Please choose another "
+          "name.");
+      click(w.cmdRUN);
+      EXPECT_EQ(w.outputFile.txtLSTFilename.backColor(), colors::kYellow);
+      EXPECT_EQ(theCase.ListFile, "");
+    }
   });
 }
 

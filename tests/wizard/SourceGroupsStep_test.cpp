@@ -120,9 +120,9 @@ TEST_F(SourceGroups, AConcentrationFileMustExist) {
 
 TEST_F(SourceGroups, DefaultNamesMakeRoomForTyping) {
   inWizard([&](frmKORVENTALLY& w) {
-    walkToGroups(w, "1");
+    walkToGroups(w, "2");
     TextBox& name = w.sourceGroups.txtGroupName;
-    const char* prepared[] = {"ALL", "", ""};
+    const char* prepared[] = {"ALL", "", "", ""};
     for (const char* expected : prepared) {
       click(name);
       EXPECT_EQ(name.text(), expected);
@@ -131,12 +131,30 @@ TEST_F(SourceGroups, DefaultNamesMakeRoomForTyping) {
     click(w.sourceGroups.cmdPrevGroup);
     EXPECT_EQ(theCase.GroupNames[1], "ALL");
     EXPECT_EQ(theCase.GroupNames[2], "FACILITY") << "an empty name box keeps the stored name";
-    EXPECT_EQ(theCase.GroupNames[3], "OTHER_1");
+    EXPECT_EQ(theCase.GroupNames[4], "OTHER_2");
     paste(name, "  Mill ");
-    click(w.sourceGroups.cmdPrevGroup);
-    EXPECT_EQ(theCase.GroupNames[2], "Mill");
+    for (int page = 3; page > 1; --page) click(w.sourceGroups.cmdPrevGroup);
+    EXPECT_EQ(theCase.GroupNames[3], "Mill");
     click(name);
     EXPECT_EQ(name.text(), "ALL") << "a name that is no default is left alone";
+  });
+}
+
+TEST_F(SourceGroups, BoxesAreTrimmedWhenLeftAndMarksStayBehind) {
+  inWizard([&](frmKORVENTALLY& w) {
+    walkToGroups(w);
+    for (TextBox* box : w.sourceGroups.SourceGroupInfoFields) {
+      HighlightField(*box);
+      paste(*box, " x ");
+      press(w, Key::kTab);
+      EXPECT_EQ(box->text(), "x");
+      EXPECT_EQ(box->backColor(), colors::kWhite);
+    }
+    fillAndTurn(w);
+    expectError("Please select a Concentration File.");
+    click(w.sourceGroups.cmdNext3);
+    click(w.sourceGroups.cmdPrevGroup);
+    EXPECT_EQ(w.sourceGroups.txtConcFile.backColor(), colors::kWhite);
   });
 }
 

@@ -64,6 +64,45 @@ TEST_F(Gating, StartsWithStepOneAlone) {
   });
 }
 
+TEST_F(Gating, TabLeadsForwardThroughTheOpenStepAndBackAtLast) {
+  inWizard([&](frmKORVENTALLY& w) {
+    const auto expectPath = [&](const std::vector<Control*>& path) {
+      w.setFocus(*path.front());
+      for (const Control* stop : path) {
+        EXPECT_EQ(w.focused(), stop) << stop->text();
+        press(w, Key::kTab);
+      }
+      EXPECT_EQ(w.focused(), path.front());
+    };
+    walkToAnalysis(w);
+    AnalysisTypeStep& two = w.analysisType;
+    expectPath({&two.optClassI, &two.cmdNextArrow1, &two.txtNumOfOthers, &two.cmdNext2,
+                &w.cmdCancel, &two.cmdPrevious2, &w.cmdBackToTop});
+    click(two.cmdPrevious2);
+    walkToGroups(w, "1");
+    SourceGroupsStep& three = w.sourceGroups;
+    paste(three.txtConcFile, kStudy + "g1.con");
+    expectPath({&three.txtConcFile, &three.cmdBrowseFile, &three.txtGroupName,
+                &three.txtAmbientBckg, &three.cmdNextGroup, &w.cmdCancel, &three.cmdPrevious3,
+                &w.cmdBackToTop});
+    click(three.cmdNextGroup);
+    paste(three.txtConcFile, kStudy + "g2.con");
+    expectPath({&three.txtConcFile, &three.cmdBrowseFile, &three.txtGroupName, &three.cmdPrevGroup,
+                &three.cmdNextGroup, &w.cmdCancel, &three.cmdPrevious3, &w.cmdBackToTop});
+    click(w.cmdBackToTop);
+    walkToOutput(w, "1");
+    OutputFileStep& five = w.outputFile;
+    expectPath({&w.cmdRUN, &w.cmdCancel, &five.txtLSTFilename, &five.cmdDefault_LST,
+                &five.cmdPrevious5, &w.cmdBackToTop});
+    click(five.cmdPrevious5);
+    ProcessingInfoStep& four = w.processingInfo;
+    expectPath({&four.txtReceptorDATFile, &four.cmdBrowseReceptorDAT, &four.optReceptor_TOLVREN,
+                &four.txtYear, &four.txtMonth, &four.txtDay, &four.txtHour, &four.txtRunLength,
+                &four.optRank1_Include, &four.cmdNext4, &w.cmdCancel, &four.cmdPrevious4,
+                &w.cmdBackToTop});
+  });
+}
+
 TEST_F(Gating, WalksForwardAndBack) {
   inWizard([&](frmKORVENTALLY& w) {
     walkToOutput(w);

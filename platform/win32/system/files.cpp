@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <optional>
 
 #include "platform/win32/system/error.h"
 #include "platform/win32/system/handle.h"
@@ -49,6 +50,21 @@ Status fill(Handle file, const std::string& content, const std::string& path) {
   return {};
 }
 
+constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
+/// What tells one file from all others of this machine, whatever its names.
+std::optional<BY_HANDLE_FILE_INFORMATION> identityOf(const Handle& file) {
+  BY_HANDLE_FILE_INFORMATION identity;
+  if (!file || !GetFileInformationByHandle(file.get(), &identity)) return std::nullopt;
+  return identity;
+}
+
+Handle openToLookAt(const std::string& path) {
+  constexpr DWORD kNoAccess = 0;
+  return Handle(CreateFileW(nativePath(path).c_str(), kNoAccess, kShareAll, nullptr, OPEN_EXISTING,
+                            FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+}
+
 class Win32FileReader : public FileReader {
  public:
   Win32FileReader(Handle file, std::string path) : file_(std::move(file)), path_(std::move(path)) {}
@@ -85,6 +101,16 @@ bool folderListsEntries(const std::string& path) {
   return true;
 }
 
+bool sameFile(const std::string& one, const std::string& other) {
+  // Both stay open until they have been compared: the system may give a number out again.
+  const Handle first = openToLookAt(one);
+  const Handle second = openToLookAt(other);
+  const auto a = identityOf(first);
+  const auto b = identityOf(second);
+  return a && b && a->dwVolumeSerialNumber == b->dwVolumeSerialNumber &&
+         a->nFileIndexHigh == b->nFileIndexHigh && a->nFileIndexLow == b->nFileIndexLow;
+}
+
 Status deleteFile(const std::string& path) {
   if (!DeleteFileW(nativePath(path).c_str())) return lastError(path);
   return {};
@@ -110,7 +136,6 @@ Status writeTextFile(const std::string& path, const std::vector<std::string>& li
 }
 
 Result<std::unique_ptr<FileReader>> openForReading(const std::string& path) {
-  constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
   Handle file(CreateFileW(nativePath(path).c_str(), GENERIC_READ, kShareAll, nullptr, OPEN_EXISTING,
                           FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
   if (!file) return lastError(path);

@@ -115,8 +115,9 @@ class NativeTextBox : public NativeControl {
   void drop(const std::wstring& path) {
     if (stage().closed() || !box_.usable() || path.empty()) return;
     box_.window().setFocus(box_);
-    SendMessageW(handle(), EM_SETSEL, 0, -1);
-    replaceSelection(path);
+    // Whole, however long it is: the limit is one of typing, and a path cut short leads nowhere.
+    SetWindowTextW(handle(), path.c_str());
+    SendMessageW(handle(), EM_SETSEL, path.size(), static_cast<LPARAM>(path.size()));
   }
 
   /// As if the person had typed it: on one line and within the limit.

@@ -48,6 +48,15 @@ TEST_F(Files, AreWrittenByteForByte) {
   }
 }
 
+TEST_F(Files, AreTheSameHoweverTheyAreSpelled) {
+  ASSERT_TRUE(writeTextFile(folder + "Äpfel.con", {}) && writeTextFile(folder + "other.con", {}));
+  for (const char* name : {"Äpfel.con", "äPFEL.CON", ".\\Äpfel.con", "Äpfel.con "}) {
+    EXPECT_TRUE(sameFile(folder + "Äpfel.con", folder + name)) << name;
+  }
+  EXPECT_FALSE(sameFile(folder + "Äpfel.con", folder + "other.con"));
+  EXPECT_FALSE(sameFile(folder + "none", folder + "none")) << "there is no file at all";
+}
+
 TEST_F(Files, AreNotTouchedWhenTheTextIsNotAnsi) {
   const std::string path = folder + "kept.txt";
   ASSERT_TRUE(writeTextFile(path, {"kept"}));
