@@ -6,6 +6,7 @@
 #include "platform/dialogs.h"
 #include "platform/events.h"
 #include "platform/files.h"
+#include "platform/later.h"
 
 namespace korventally {
 namespace {
@@ -42,6 +43,7 @@ Status removeOwnFile(const std::string& path, const std::function<bool()>& inter
 
 void showFailure(Window* owner, const std::string& what, const Error& error,
                  const std::string& advice) {
+  if (timeIsUp()) return;
   messageBox(owner, what + "\n" + error.path + "\n\n" + reasonOf(error) + "\n\n" + advice,
              kErrorTitle);
 }

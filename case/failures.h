@@ -20,7 +20,8 @@ Status removeOwnFile(const std::string& path, const std::function<bool()>& inter
 /// The system's reason with its number.
 std::string reasonOf(const Error& error);
 
-/// Says in a message box what failed, on which file, the system's reason and what to do about it.
+/// Says in a message box, as long as there is time for one, what failed, on which file, the
+/// system's reason and what to do about it.
 void showFailure(Window* owner, const std::string& what, const Error& error,
                  const std::string& advice);
 

@@ -1,10 +1,9 @@
 #include "platform/control.h"
 
-#include <exception>
 #include <utility>
 
 #include "platform/container.h"
-#include "platform/dialogs.h"
+#include "platform/guarded.h"
 #include "platform/window.h"
 
 namespace korventally {
@@ -50,13 +49,7 @@ void Control::setText(std::string text) {
 void Control::changed(Aspect aspect) { window().controlChanged(*this, aspect); }
 
 void Control::raise(const std::function<void()>& handler) {
-  try {
-    if (handler) handler();
-  } catch (const std::exception& failure) {
-    // The usual reason is missing memory. No exception may reach the system's own code above.
-    messageBox(&window(), std::string("This could not be finished: ") + failure.what(),
-               kErrorTitle);
-  }
+  runGuarded(&window(), handler);
   window().settleFocus();
 }
 

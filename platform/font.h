@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string_view>
+
 namespace korventally {
 
 /// A font by face and size. A face named "Symbol" uses the symbol character set.
@@ -8,7 +10,10 @@ struct Font {
   double points = 8.25;
   bool bold = false;
   bool underlined = false;
-  friend bool operator==(const Font&, const Font&) = default;
+  friend bool operator==(const Font& a, const Font& b) {
+    return std::string_view(a.face) == b.face && a.points == b.points && a.bold == b.bold &&
+           a.underlined == b.underlined;
+  }
 };
 
 namespace fonts {

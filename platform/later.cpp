@@ -70,7 +70,10 @@ std::optional<std::uint32_t> untilNextDue() {
   return next->remaining();
 }
 
-void forgetLater() { actions().clear(); }
+void forgetLater() {
+  actions().clear();
+  hurrying() = false;
+}
 
 void finishLater() {
   runEventsWhile([] { return !actions().empty(); });
@@ -79,7 +82,6 @@ void finishLater() {
 void hurryLater() {
   hurrying() = true;
   while (!actions().empty()) runAndRemove(actions().begin());
-  hurrying() = false;
 }
 
 bool timeIsUp() { return hurrying(); }

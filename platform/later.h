@@ -22,13 +22,13 @@ void runDue();
 /// For back ends: milliseconds until the next action; none when there is none to come.
 std::optional<std::uint32_t> untilNextDue();
 
-/// For back ends: drops everything that is still to come, for a new world.
+/// For tests: drops everything that is still to come, and there is time again.
 void forgetLater();
 
 /// Runs everything that is still to come, each at its time, handling events meanwhile.
 void finishLater();
 
-/// Runs everything that is still to come at once: there is no time left to wait.
+/// Runs everything that is still to come at once: from now on there is no time left.
 void hurryLater();
 
 /// Whether that is so: nobody may wait any more, nor ask the person anything.

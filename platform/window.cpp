@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "platform/events.h"
+#include "platform/guarded.h"
 #include "platform/option_button.h"
 
 namespace korventally {
@@ -32,7 +33,7 @@ void Window::show(Window* owner) {
   open_ = true;
   mutableOpenWindows().push_back(this);
   view_ = createWindowView(*this, owner);
-  moveFocus();
+  if (open_) moveFocus();
   runEventsWhile([this] { return open_; });
   view_.reset();
 }
@@ -42,7 +43,8 @@ void Window::unload() {
   Form_Unload();
   open_ = false;
   std::erase(mutableOpenWindows(), this);
-  view_->close();
+  // None yet when a message has closed the window while it was being made.
+  if (view_) view_->close();
 }
 
 void Window::requestClose() {
@@ -57,9 +59,9 @@ void Window::unloadAll() {
 
 void Window::setFocus(Control& control) {
   if (!control.usable()) return;
-  // The view first: it knows what to do before the control learns of its focus.
-  if (open_ && view_) view_->setFocus(control);
-  focusMovedTo(control);
+  // A view that gives the control the keyboard has reported it already, and what followed from it.
+  const bool moved = open_ && view_ && view_->setFocus(control);
+  if (!moved) focusMovedTo(control);
 }
 
 void Window::moveFocus(bool forward) {
@@ -84,8 +86,9 @@ bool Window::isTabStop(const Control& control) {
 void Window::focusMovedTo(Control& control) {
   if (&control == focused_) return;
   Control* left = std::exchange(focused_, &control);
-  if (left != nullptr && left->onLostFocus) left->onLostFocus();
-  if (control.onGotFocus) control.onGotFocus();
+  if (left != nullptr) runGuarded(this, left->onLostFocus);
+  // Unless leaving has led elsewhere.
+  if (focused_ == &control) runGuarded(this, control.onGotFocus);
 }
 
 void Window::controlChanged(const Control& control, Aspect aspect) {

@@ -17,8 +17,9 @@ class WindowView {
 
   /// Shows one changed aspect of a control.
   virtual void refresh(const Control& control, Aspect aspect) = 0;
-  /// Gives the control the keyboard.
-  virtual void setFocus(const Control& control) = 0;
+  /// Gives the control the keyboard and reports it. False when it cannot, because another window is
+  /// active.
+  virtual bool setFocus(const Control& control) = 0;
   /// Says a text to assistive programs, once.
   virtual void announce(const Control& control) = 0;
   /// Takes the window off the screen and makes its owner usable again. The view itself lives on

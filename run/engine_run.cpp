@@ -54,7 +54,7 @@ bool EngineRun::prepare() {
 
 bool EngineRun::checkEngine() {
   if (fileExists(enginePath())) return true;
-  messageBox(owner(),
+  messageBox(&window_,
              "The engine could not be found:\n" + enginePath() +
                  "\n\nPlease copy korventally.exe into this folder, then press RUN again.",
              kErrorTitle);
@@ -68,7 +68,7 @@ bool EngineRun::checkCodePage() {
   for (std::string& line : batchFileLines(case_)) texts.push_back(std::move(line));
   for (const std::string& text : texts) {
     if (toAnsi(text)) continue;
-    messageBox(owner(),
+    messageBox(&window_,
                "This text holds characters that the system's code page lacks:\n" + text +
                    "\n\nThe engine could not read it. Please use another name for the file, folder "
                    "or group.",
@@ -178,7 +178,7 @@ bool EngineRun::worthWaitingAfter(const Result<std::optional<Verdict>>& read, bo
 
 bool EngineRun::keepWaiting(const std::string& what, const std::string& reason) {
   const Answer answer = messageBox(
-      owner(),
+      &window_,
       what + "\n" + listFile_ + (reason.empty() ? "" : "\n\n" + reason) +
           "\n\nKeep waiting for it? \"Yes\" waits another 30 seconds, \"No\" ends the run.",
       kWarningTitle, Buttons::kYesNo);
@@ -195,7 +195,7 @@ void EngineRun::finish() {
     if (!std::exchange(file->written, false)) continue;
     const Status removed = removeOwnFile(file->path);
     if (removed) continue;
-    showFailure(owner(), "A file of the run could not be deleted:", removed.error(),
+    showFailure(&window_, "A file of the run could not be deleted:", removed.error(),
                 kLeftoverAdvice);
   }
 }
@@ -217,7 +217,7 @@ bool EngineRun::wait(int milliseconds) {
 }
 
 bool EngineRun::fail(const std::string& what, const Error& error, const std::string& advice) {
-  if (!abandoned_) showFailure(owner(), what, error, advice);
+  if (!abandoned_) showFailure(&window_, what, error, advice);
   return false;
 }
 

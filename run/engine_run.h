@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -59,7 +60,6 @@ class EngineRun {
   bool worthWaitingAfter(const Result<std::optional<Verdict>>& read, bool processesGone);
   bool processesGone() const { return !processes_->running(); }
   bool keepWaiting(const std::string& what, const std::string& reason = {});
-  Window* owner() const { return window_.isOpen() ? &window_ : nullptr; }
   bool fail(const std::string& what, const Error& error, const std::string& advice);
 
   const AnalysisCase& case_;

@@ -77,6 +77,7 @@ void frmRunSummary::cmdRUN_Click() {
   takeValuesBack();
   RunStatus.reset();
   lblStatus.setText("");
+  ++runs_;
   {
     EngineRun run(*this, lblRunning);
     const RunInProgress inProgress(*this, run);
@@ -120,12 +121,13 @@ void frmRunSummary::showOutcome() {
   announce(lblStatus);
 }
 
+/// "RUN" is usable again meanwhile: the list file of an earlier run is of no interest any more.
 void frmRunSummary::openListFile() {
-  const Status opened =
-      OpenFileInNotepad(theCase().WorkDir, theCase().ListFile, [this] { return !isOpen(); });
-  if (opened) return;
-  showFailure(isOpen() ? this : nullptr,
-              "The list file could not be opened in notepad:", opened.error(),
+  const auto overtaken = [this, run = runs_] { return run != runs_; };
+  const Status opened = OpenFileInNotepad(theCase().WorkDir, theCase().ListFile,
+                                          [&] { return !isOpen() || overtaken(); });
+  if (opened || overtaken()) return;
+  showFailure(this, "The list file could not be opened in notepad:", opened.error(),
               "The run is not affected. Please open the list file yourself.");
 }
 

@@ -80,6 +80,7 @@ class frmRunSummary : public Window {
   void openListFile();
 
   EngineRun* run_ = nullptr;
+  int runs_ = 0;            ///< how many have been started here
   bool focusLent_ = false;  ///< a run has moved the focus away from "RUN", and nobody else since
 };
 

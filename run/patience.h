@@ -17,7 +17,10 @@ class Patience {
 
   void listFileWasRead(std::uint32_t now) { since_ = now; }
   /// The user keeps waiting.
-  void extend(std::uint32_t now) { since_ = *(extended_ = now); }
+  void extend(std::uint32_t now) {
+    since_ = now;
+    extended_ = now;
+  }
 
   bool listFileOverdue(std::uint32_t now) const { return now - since_ >= kLimit; }
   /// For a run whose processes are gone.

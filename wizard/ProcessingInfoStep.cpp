@@ -1,5 +1,7 @@
 #include "wizard/ProcessingInfoStep.h"
 
+#include <utility>
+
 #include "platform/dialogs.h"
 #include "platform/files.h"
 #include "wizard/frmKORVENTALLY.h"
@@ -13,12 +15,6 @@ constexpr std::size_t kYearDigits = 4;
 /// Makes a lone digit two.
 void PadTwoDigits(TextBox& box) {
   if (characterCount(box.text()) == 1) box.setText("0" + box.text());
-}
-
-void emptyOnFocus(TextBox& box, const std::string& placeholder) {
-  box.onGotFocus = [&box, placeholder] {
-    if (box.text() == placeholder) box.setText("");
-  };
 }
 
 }  // namespace
@@ -40,18 +36,25 @@ ProcessingInfoStep::ProcessingInfoStep(frmKORVENTALLY& owner)
 }
 
 void ProcessingInfoStep::bindHandlers() {
-  emptyOnFocus(txtYear, "YYYY");
-  emptyOnFocus(txtMonth, "MM");
-  emptyOnFocus(txtDay, "DD");
-  emptyOnFocus(txtHour, "HH");
-  for (TextBox* box : {&txtMonth, &txtDay, &txtHour}) {
-    box->onLostFocus = [box] { PadTwoDigits(*box); };
-  }
-  for (TextBox* box : {&txtYear, &txtMonth, &txtDay, &txtHour, &txtRunLength}) {
-    box->onKeyPress = [this](std::int16_t& keyCode) {
+  const std::pair<TextBox*, const char*> boxes[] = {{&txtYear, "YYYY"},
+                                                    {&txtMonth, "MM"},
+                                                    {&txtDay, "DD"},
+                                                    {&txtHour, "HH"},
+                                                    {&txtRunLength, kNoPlaceholder}};
+  for (const auto& entry : boxes) {
+    const auto clearPlaceholder = [box = entry.first, placeholder = entry.second] {
+      if (box->text() == placeholder) box->setText("");
+    };
+    entry.first->onGotFocus = clearPlaceholder;
+    entry.first->onKeyPress = [this, clearPlaceholder](std::int16_t& keyCode) {
       FilterDigitKey(keyCode);
       MoveOnAtEnter(wizard, keyCode);
+      // A refused box shows its placeholder although it has the focus.
+      if (keyCode != 0) clearPlaceholder();
     };
+  }
+  for (TextBox* box : {&txtMonth, &txtDay, &txtHour}) {
+    box->onLostFocus = [box] { PadTwoDigits(*box); };
   }
   cmdBrowseReceptorDAT.onClick = [this] { cmdBrowseReceptorDAT_Click(); };
   cmdPrevious4.onClick = [this] { cmdPrevious4_Click(); };

@@ -22,7 +22,7 @@ class HeadlessView : public WindowView {
   }
 
   void refresh(const Control&, Aspect) override {}
-  void setFocus(const Control&) override {}
+  bool setFocus(const Control&) override { return false; }
   void announce(const Control& control) override {
     Desktop::current().world().announcements.push_back(control.text());
   }

@@ -1,4 +1,5 @@
 #include <exception>
+#include <new>
 
 #include "platform/win32/ui/session.h"
 #include "platform/win32/ui/system_function.h"
@@ -16,14 +17,20 @@ void loadFromSystemFolderOnly() {
   if (set) set(LOAD_LIBRARY_SEARCH_SYSTEM32);
 }
 
+int giveUp(const wchar_t* why) {
+  MessageBoxW(nullptr, why, L"Error", MB_OK);
+  return 1;
+}
+
 /// The program, or the one thing that can still be said when it cannot go on.
 int run() {
   try {
     const korventally::win32::SessionWatch watch;
     return korventally::runProgram();
+  } catch (const std::bad_alloc&) {
+    return giveUp(L"KorvenTally has run out of memory and has to close.");
   } catch (const std::exception&) {
-    MessageBoxW(nullptr, L"KorvenTally has run out of memory and has to close.", L"Error", MB_OK);
-    return 1;
+    return giveUp(L"KorvenTally has met a fault of its own and has to close.");
   }
 }
 

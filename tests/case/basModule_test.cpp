@@ -46,6 +46,9 @@ TEST_F(StartUp, TakesTheDefaultDirectoryFromTheFirstLine) {
 
 TEST_F(StartUp, OpensWithoutAConfigurationThatItCanRead) {
   EXPECT_EQ(initialiseCase(), "") << "missing";
+  desktop.makeFolder("D:\\Prog\\Movrix.cfg\\");
+  EXPECT_EQ(initialiseCase(), "") << "a folder";
+  desktop.removeFile("D:\\Prog\\Movrix.cfg");
   desktop.putFile("D:\\Prog\\Movrix.cfg", "k=C:\\A", Desktop::Attribute::kHidden);
   EXPECT_EQ(initialiseCase(), "") << "hidden";
   desktop.putFile("D:\\Prog\\Movrix.cfg", "k=C:\\A");

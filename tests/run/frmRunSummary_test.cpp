@@ -151,6 +151,19 @@ TEST_F(RunSummary, ASecondRunFitsIntoTheEditorsFiveSeconds) {
   EXPECT_EQ(leftovers(), std::vector<std::string>{"korventally.lst"});
 }
 
+TEST_F(RunSummary, ANewRunOvertakesTheEditorOfTheLastOne) {
+  inSummary([&](frmRunSummary& s) {
+    desktop.putFile(kStudy + "open_file.bat", "");
+    desktop.lockFile(kStudy + "open_file.bat", 5500);
+    // The first run is over, and its editor waits for the file.
+    desktop.at(5000, [&] { click(s.cmdRUN); });
+    click(s.cmdRUN);
+    EXPECT_EQ(s.lblStatus.text(), "RUN COMPLETED");
+    EXPECT_EQ(desktop.enginesStarted(), 2);
+    EXPECT_EQ(desktop.filesInNotepad().size(), 1u);
+  });
+}
+
 TEST_F(RunSummary, OnePressStartsOneRun) {
   inSummary([&](frmRunSummary& s) {
     // While the first press still prepares its files, the button can be pressed again.

@@ -87,16 +87,20 @@ TEST_F(Accessibility, EveryControlIsSpokenOf) {
   basModule::analysisCase = AnalysisCase{};
   frmKORVENTALLY wizard;
   frmRunSummary summary;
-  runLater("visit", 0, [&] {
-    expectComplete(wizard, wizard.analysisType.cmdNextArrow1);
-    runLater("visit", 0, [&] {
-      expectComplete(summary, summary.txtSpecies);
-      summary.unload();
+  frmAboutKORVENTALLY about;
+  frmKORVENTALLYHelp help;
+  const std::pair<Window*, const Control*> windows[] = {
+      {&wizard, &wizard.analysisType.cmdNextArrow1},
+      {&summary, &summary.txtSpecies},
+      {&about, &about.chkDebug},
+      {&help, &help.cmdOK}};
+  for (const auto& [window, named] : windows) {
+    runLater("visit", 0, [&, window = window, named = named] {
+      expectComplete(*window, *named);
+      window->unload();
     });
-    summary.show(&wizard);
-    wizard.unload();
-  });
-  wizard.show();
+    window->show();
+  }
 }
 
 }  // namespace

@@ -112,24 +112,41 @@ TEST_F(Surroundings, TextStandsInTheMiddleOfItsBox) {
   });
 }
 
-/// Closes the message box of this thread if nothing else has done so in time.
+/// Helps after five seconds, if what is tested has not ended by then.
 class Rescue {
  public:
-  explicit Rescue(const wchar_t* title)
-      : thread_([title, thread = GetCurrentThreadId()](const std::stop_token& stop) {
+  explicit Rescue(std::function<void()> help)
+      : thread_([help = std::move(help)](const std::stop_token& stop) {
           std::mutex mutex;
           std::unique_lock lock(mutex);
           std::condition_variable_any ended;
           ended.wait_for(lock, stop, std::chrono::seconds(5), [] { return false; });
-          if (!stop.stop_requested()) PostMessageW(FindWindowW(nullptr, title), WM_CLOSE, 0, 0);
+          if (!stop.stop_requested()) help();
         }) {}
 
  private:
   std::jthread thread_;
 };
 
+TEST_F(Surroundings, AnotherProgramCanCloseAWindowThatWaits) {
+  bool rescued = false;
+  const Rescue rescue([&, thread = GetCurrentThreadId()] {
+    rescued = true;
+    PostThreadMessageW(thread, WM_NULL, 0, 0);
+  });
+  std::jthread other;
+  runLater("visit", 0, [&] {
+    other = std::jthread([window = nativeHandle(form)] {
+      Sleep(100);  // until the window has nothing left to do
+      SendMessageW(window, WM_CLOSE, 0, 0);
+    });
+  });
+  form.show();
+  EXPECT_FALSE(rescued);
+}
+
 TEST_F(Surroundings, WhatIsDueIsDoneWhileAMessageBoxIsOpen) {
-  const Rescue rescue(L"Still open");
+  const Rescue rescue([] { PostMessageW(FindWindowW(nullptr, L"Still open"), WM_CLOSE, 0, 0); });
   bool done = false;
   bool openThen = false;
   runLater("later", 100, [&] {

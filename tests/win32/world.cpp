@@ -6,6 +6,7 @@
 #include <fstream>
 #include <stdexcept>
 
+#include "platform/later.h"
 #include "platform/win32/system/text.h"
 
 namespace korventally::testing {
@@ -47,7 +48,7 @@ void setAttribute(const std::string& path, DWORD attribute) {
 
 }  // namespace
 
-World::World() : backEnd_(std::make_shared<TemporaryFolder>()) {}
+World::World() : backEnd_(std::make_shared<TemporaryFolder>()) { forgetLater(); }
 World::~World() = default;
 
 std::string World::freshFolder() {

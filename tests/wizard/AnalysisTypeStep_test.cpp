@@ -14,7 +14,9 @@ class AnalysisType : public StudyTest {
       open += frame->enabled() ? '1' : '0';
     }
     for (const Button* arrow : {&step.cmdNextArrow1, &step.cmdNextArrow2, &step.cmdNextArrow3}) {
-      green += arrow->backColor() == colors::kGreen ? 'g' : '-';
+      // Only a graphical button shows its colour.
+      const bool shows = arrow->style() == Button::Style::kGraphical;
+      green += shows && arrow->backColor() == colors::kGreen ? 'g' : '-';
     }
     return open + " " + green;
   }
@@ -25,6 +27,8 @@ TEST_F(AnalysisType, TheArrowsUnlockOneSubFrameAtATime) {
     AnalysisTypeStep& step = w.analysisType;
     walkToAnalysis(w);
     EXPECT_EQ(state(w), "1000 g--");
+    EXPECT_EQ(step.optNAAQS.toolTip(), "National Ambient Air Quality Standards");
+    EXPECT_EQ(step.optPSD.toolTip(), "Prevention of Significant Deterioration");
     const struct {
       Button& arrow;
       const char* after;

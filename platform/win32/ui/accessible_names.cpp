@@ -1,6 +1,8 @@
 #include "platform/win32/ui/accessible_names.h"
 
+#include <algorithm>
 #include <iterator>
+#include <utility>
 
 #include "platform/win32/system/text.h"
 
@@ -21,9 +23,8 @@ AccessibleNames::AccessibleNames() {
 }
 
 AccessibleNames::~AccessibleNames() {
-  if (services_ == nullptr) return;
-  for (HWND control : named_) forget(control);
-  services_->Release();
+  clear();
+  if (services_ != nullptr) services_->Release();
 }
 
 void AccessibleNames::add(HWND control, const std::string& name) {
@@ -38,16 +39,18 @@ void AccessibleNames::announce(HWND control) {
     live.vt = VT_I4;
     live.lVal = kAssertive;
     services_->SetHwndProp(control, kClient, CHILDID_SELF, kLiveSettingProperty, live);
-    named_.push_back(control);
+    if (std::find(named_.begin(), named_.end(), control) == named_.end()) named_.push_back(control);
   }
   NotifyWinEvent(kLiveRegionChanged, control, OBJID_CLIENT, CHILDID_SELF);
   NotifyWinEvent(EVENT_SYSTEM_ALERT, control, OBJID_CLIENT, CHILDID_SELF);
 }
 
-void AccessibleNames::forget(HWND control) {
+void AccessibleNames::clear() {
   const MSAAPROPID properties[]{PROPID_ACC_NAME, kLiveSettingProperty};
-  services_->ClearHwndProps(control, kClient, CHILDID_SELF, properties,
-                            static_cast<int>(std::size(properties)));
+  for (HWND control : std::exchange(named_, {})) {
+    services_->ClearHwndProps(control, kClient, CHILDID_SELF, properties,
+                              static_cast<int>(std::size(properties)));
+  }
 }
 
 }  // namespace korventally::win32

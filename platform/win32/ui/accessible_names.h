@@ -17,12 +17,12 @@ class AccessibleNames {
   ~AccessibleNames();
 
   void add(HWND control, const std::string& name);
+  /// Forgets all names. Called while the controls still exist.
+  void clear();
   /// Has the control's text read out once, without the focus going there.
   void announce(HWND control);
 
  private:
-  void forget(HWND control);
-
   IAccPropServices* services_ = nullptr;
   std::vector<HWND> named_;
 };

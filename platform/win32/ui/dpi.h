@@ -5,7 +5,7 @@
 namespace korventally::win32 {
 
 /// Sharpness on every screen: the calls that know the resolution of one window, and what stands in
-/// for them on the systems that know a single resolution only.
+/// for them on the systems that tell this program of a single resolution only.
 
 int dpiOf(HWND window);
 /// Grows a client area to the whole window around it.

@@ -3,7 +3,9 @@
 #include <windows.h>
 
 #include <optional>
+#include <utility>
 
+#include "platform/guarded.h"
 #include "platform/later.h"
 #include "platform/win32/ui/keyboard.h"
 #include "platform/window.h"
@@ -46,9 +48,9 @@ class MessagePump {
 UINT_PTR dueTimer = 0;
 
 void CALLBACK timerWentOff(HWND, UINT, UINT_PTR, DWORD) {
-  runDue();
+  runGuarded(nullptr, runDue);
   if (const auto next = untilNextDue()) return callRunDueIn(*next);
-  KillTimer(nullptr, dueTimer);
+  KillTimer(nullptr, std::exchange(dueTimer, 0));
 }
 
 }  // namespace
@@ -69,7 +71,9 @@ void runEventsWhile(const std::function<bool()>& goOn) {
   while (goOn()) {
     runDue();
     if (!goOn()) return;
-    if (!pump.handleNext()) WaitMessage();
+    // A message that another program has sent is handled while this one looks for the next, which
+    // then may be none: so the condition is asked once more.
+    if (!pump.handleNext() && goOn()) WaitMessage();
   }
 }
 

@@ -1,5 +1,6 @@
 #include "platform/win32/ui/menu_bar.h"
 
+#include "platform/guarded.h"
 #include "platform/win32/system/text.h"
 
 namespace korventally::win32 {
@@ -35,7 +36,7 @@ void chooseMenuEntry(Window& window, int id) {
   for (const Menu& menu : window.menus()) {
     for (const MenuEntry* entry : menu.entries) {
       if (--id != 0) continue;
-      if (entry->onClick) entry->onClick();
+      runGuarded(&window, entry->onClick);
       window.settleFocus();
       return;
     }

@@ -12,12 +12,10 @@
 #include "platform/picture_box.h"
 #include "platform/text_box.h"
 #include "platform/win32/system/text.h"
-#include "platform/win32/ui/colors.h"
 #include "platform/win32/ui/dpi.h"
 #include "platform/win32/ui/menu_bar.h"
 #include "platform/win32/ui/native_lookup.h"
 #include "platform/win32/ui/resource_ids.h"
-#include "platform/win32/ui/session.h"
 
 namespace korventally::win32 {
 namespace {
@@ -59,6 +57,11 @@ NativeWindow::NativeWindow(Window& window, HWND owner)
       lastId_(kFirstControlId - 1) {
   createControls(window_, handle_);
   fit(true);
+  // Its place may be on a screen of another resolution, and nobody has heard of the change yet.
+  if (const int dpi = dpiOf(handle_); dpi != stage_.dpi()) {
+    stage_.setDpi(dpi);
+    fit(true);
+  }
   SendMessageW(handle_, WM_CHANGEUISTATE, UIS_INITIALIZE, 0);
   views().push_back(this);
   if (owner_ != nullptr) EnableWindow(owner_, FALSE);
@@ -70,6 +73,7 @@ NativeWindow::~NativeWindow() {
   if (!closed()) close();
   std::erase(views(), this);
   SetWindowLongPtrW(handle_, GWLP_USERDATA, 0);
+  names_.clear();
   DestroyWindow(handle_);
 }
 
@@ -169,12 +173,15 @@ void NativeWindow::refresh(const Control& control, Aspect aspect) {
   if (aspect == Aspect::kEnabled || aspect == Aspect::kVisible) restoreFocus();
 }
 
-void NativeWindow::setFocus(const Control& control) {
-  if (GetActiveWindow() != handle_) return;
+bool NativeWindow::setFocus(const Control& control) {
+  if (GetActiveWindow() != handle_) return false;
   HWND target = handleOf(control);
   // Before the focus arrives, because what it brings about may prepare the text for typing.
   if (control.kind() == Control::Kind::kTextBox) SendMessageW(target, EM_SETSEL, 0, -1);
+  // Nothing is reported when the keyboard is there already.
+  const bool moves = GetFocus() != target;
   SetFocus(target);
+  return moves;
 }
 
 void NativeWindow::restoreFocus() {
@@ -203,7 +210,7 @@ void NativeWindow::close() {
 
 HWND nativeHandle(const Control& control) {
   const NativeWindow* view = NativeWindow::of(control.window());
-  return view == nullptr ? nullptr : view->handleOf(control);
+  return view == nullptr || view->closed() ? nullptr : view->handleOf(control);
 }
 
 }  // namespace korventally::win32

@@ -36,7 +36,7 @@ class NativeWindow : public WindowView {
   void showFocus();
 
   void refresh(const Control& control, Aspect aspect) override;
-  void setFocus(const Control& control) override;
+  bool setFocus(const Control& control) override;
   void announce(const Control& control) override;
   void close() override;
 
@@ -58,7 +58,6 @@ class NativeWindow : public WindowView {
   /// Gives the window the size of its contents, or of the work area if that is smaller, and lays
   /// the controls out. Centred, or else from the top-left corner as it is.
   void fit(bool centre);
-  RECT workArea() const;
   void placeControls();
 
   Window& window_;
@@ -70,6 +69,7 @@ class NativeWindow : public WindowView {
   AccessibleNames names_;
   std::map<const Control*, std::unique_ptr<NativeControl>> controls_;
   int lastId_;
+  bool minimised_ = false;
 };
 
 }  // namespace korventally::win32

@@ -13,16 +13,20 @@ LONG inside(LONG start, LONG length, LONG low, LONG high) {
   return std::max(low, std::min(start, high - length));
 }
 
-}  // namespace
-
-RECT NativeWindow::workArea() const {
+/// Of the screen that holds most of a window.
+RECT workAreaAround(HWND window) {
   MONITORINFO monitor{};
   monitor.cbSize = sizeof monitor;
-  GetMonitorInfoW(MonitorFromWindow(owner_ ? owner_ : handle_, MONITOR_DEFAULTTONEAREST), &monitor);
+  GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &monitor);
   return monitor.rcWork;
 }
 
+}  // namespace
+
 void NativeWindow::fit(bool centre) {
+  // A window that is minimised has no size of its own to be fitted: it is when it comes back.
+  if (IsIconic(handle_)) return;
+  const int dpi = stage_.dpi();
   const SIZE contents{stage_.fromTwips(window_.place().width),
                       stage_.fromTwips(window_.place().height)};
   const auto style = static_cast<DWORD>(GetWindowLongW(handle_, GWL_STYLE));
@@ -34,7 +38,7 @@ void NativeWindow::fit(bool centre) {
   const SIZE edges{size.cx - contents.cx, size.cy - contents.cy};
 
   // A scroll bar on one side takes room on the other, where it may make a second one necessary.
-  const RECT work = workArea();
+  const RECT work = workAreaAround(centre && owner_ != nullptr ? owner_ : handle_);
   const SIZE most = sizeOf(work);
   SIZE bars{};
   const int barWidth = systemMetric(SM_CXVSCROLL, stage_.dpi());
@@ -55,6 +59,7 @@ void NativeWindow::fit(bool centre) {
   SetWindowPos(handle_, nullptr, inside(at.left, size.cx, work.left, work.right),
                inside(at.top, size.cy, work.top, work.bottom), size.cx, size.cy,
                SWP_NOZORDER | SWP_NOACTIVATE);
+  if (stage_.dpi() != dpi) return;  // moved to another screen, and fitted to that one meanwhile
   scroller_.setSizes(contents, {size.cx - edges.cx - bars.cx, size.cy - edges.cy - bars.cy});
   placeControls();
 }

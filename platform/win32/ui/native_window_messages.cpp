@@ -1,5 +1,8 @@
+#include <utility>
+
 #include "platform/win32/ui/colors.h"
 #include "platform/win32/ui/dpi.h"
+#include "platform/win32/ui/gdi.h"
 #include "platform/win32/ui/menu_bar.h"
 #include "platform/win32/ui/native_window.h"
 #include "platform/win32/ui/session.h"
@@ -85,6 +88,10 @@ std::optional<LRESULT> NativeWindow::handleSurroundings(UINT message, WPARAM fir
       fit(false);
       return 0;
     }
+    case WM_SIZE:
+      if (first == SIZE_RESTORED && std::exchange(minimised_, false)) fit(false);
+      minimised_ = minimised_ || first == SIZE_MINIMIZED;
+      return std::nullopt;
     case WM_DISPLAYCHANGE:
       fit(false);
       return std::nullopt;

@@ -1,6 +1,7 @@
 #include "platform/win32/ui/painted_control.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string_view>
 #include <vector>
 
@@ -32,11 +33,23 @@ bool changesLook(UINT message) {
 /// The private area where fonts with a symbol character set keep their 256 characters.
 constexpr wchar_t kSymbolArea = 0xF000;
 
-constexpr wchar_t kSymbolLeftArrow = 0xAC;
-constexpr wchar_t kLeftArrow = 0x2190;
-constexpr wchar_t kRightArrow = 0x2192;
+/// The arrows of the symbol character set, and those of any text font.
+constexpr wchar_t kSymbolArrows[] = {0xAC, 0xAE};
+constexpr wchar_t kTextArrows[] = {0x2190, 0x2192};
 
 bool isSymbol(const Font& font) { return std::string_view(font.face) == "Symbol"; }
+
+std::wstring inSymbolFont(std::wstring text) {
+  for (wchar_t& unit : text) unit = static_cast<wchar_t>(unit + kSymbolArea);
+  return text;
+}
+
+std::wstring inTextFont(std::wstring text) {
+  for (std::size_t arrow = 0; arrow < std::size(kSymbolArrows); ++arrow) {
+    std::replace(text.begin(), text.end(), kSymbolArrows[arrow], kTextArrows[arrow]);
+  }
+  return text;
+}
 
 /// Whether the selected font has every character of a text.
 bool fontShows(HDC dc, const std::wstring& text) {
@@ -101,29 +114,23 @@ void PaintedControl::paintOn(HDC dc) {
 void PaintedControl::selectFont(HDC dc) {
   const Font& font = model().font();
   SelectObject(dc, stage().font(font));
-  symbolsMissing_ = false;  // ask for the symbols themselves
-  symbolsMissing_ = isSymbol(font) && !fontShows(dc, caption());
-  if (symbolsMissing_) SelectObject(dc, stage().font({"Arial", font.points, font.bold}));
+  caption_ = toWide(model().text());
+  if (!isSymbol(font)) return;
+  if (fontShows(dc, inSymbolFont(caption_))) {
+    caption_ = inSymbolFont(caption_);
+  } else {
+    caption_ = inTextFont(caption_);
+    SelectObject(dc, stage().font({"Arial", font.points, font.bold}));
+  }
 }
 
 void PaintedControl::paintGround(HDC dc, const RECT& area) {
   fill(dc, area, groundColor(model().container()->backColor()));
 }
 
-std::wstring PaintedControl::caption() const {
-  std::wstring text = toWide(model().text());
-  if (!isSymbol(model().font())) return text;
-  for (wchar_t& unit : text) {
-    const wchar_t arrow = unit == kSymbolLeftArrow ? kLeftArrow : kRightArrow;
-    unit = symbolsMissing_ ? arrow : static_cast<wchar_t>(unit + kSymbolArea);
-  }
-  return text;
-}
-
 SIZE PaintedControl::captionSize(HDC dc) const {
   SIZE size{};
-  const std::wstring text = caption();
-  GetTextExtentPoint32W(dc, text.c_str(), static_cast<int>(text.size()), &size);
+  GetTextExtentPoint32W(dc, caption_.c_str(), static_cast<int>(caption_.size()), &size);
   return size;
 }
 

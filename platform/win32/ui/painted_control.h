@@ -20,8 +20,8 @@ class PaintedControl : public NativeControl {
 
   /// What the container shows behind the control.
   void paintGround(HDC dc, const RECT& area);
-  /// The text in the font's own characters.
-  std::wstring caption() const;
+  /// The text in the characters of the font selected.
+  const std::wstring& caption() const { return caption_; }
   SIZE captionSize(HDC dc) const;
   /// Whether to show that the control has the focus.
   bool showsFocus() const;
@@ -29,9 +29,10 @@ class PaintedControl : public NativeControl {
  private:
   void paintOn(HDC dc);
   void paintBuffered();
+  /// Selects the control's font and puts the caption into its characters.
   void selectFont(HDC dc);
 
-  bool symbolsMissing_ = false;
+  std::wstring caption_;
 };
 
 }  // namespace korventally::win32

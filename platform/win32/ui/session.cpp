@@ -25,11 +25,11 @@ bool mayEnd(HWND window) {
   return false;
 }
 
-/// There is no time to wait, and no code of ours may run once the message has been answered.
+/// No code of ours may get to run any more once the message has been answered.
 void endNow() {
+  hurryLater();
   const std::vector<Window*> open = Window::openWindows();
   for (Window* each : open) each->sessionEnds();
-  hurryLater();
 }
 
 /// The windows that are open object to the end; this one only hears of it.

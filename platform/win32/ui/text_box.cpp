@@ -14,7 +14,7 @@ namespace korventally::win32 {
 namespace {
 
 constexpr WPARAM kControlA = 1;
-constexpr WPARAM kDelete = 127;
+constexpr WPARAM kControlBackspace = 127;
 constexpr UINT kWithMargins = RDW_INVALIDATE | RDW_FRAME;
 
 std::wstring textOf(HWND window) {
@@ -78,7 +78,6 @@ class NativeTextBox : public NativeControl {
  private:
   /// Adds the margins to what the system has answered.
   LRESULT extend(LRESULT answer, UINT message, LPARAM second) {
-    const POINTS onScreen = MAKEPOINTS(second);
     switch (message) {
       case WM_NCCALCSIZE:
         // A rectangle, or a structure that begins with one.
@@ -87,8 +86,10 @@ class NativeTextBox : public NativeControl {
       case WM_NCPAINT:
         margins_.paint(handle(), groundColor(box_.backColor()));
         break;
-      case WM_NCHITTEST:
+      case WM_NCHITTEST: {
+        const POINTS onScreen = MAKEPOINTS(second);
         return margins_.contain(handle(), {onScreen.x, onScreen.y}) ? HTCLIENT : answer;
+      }
     }
     return answer;
   }
@@ -97,7 +98,7 @@ class NativeTextBox : public NativeControl {
     if (stage().closed()) return false;
     if (code == kControlA) SendMessageW(handle(), EM_SETSEL, 0, -1);
     // Ctrl+Backspace arrives as a character that no font can show.
-    if (code == kControlA || code == kDelete) return false;
+    if (code == kControlA || code == kControlBackspace) return false;
     return box_.acceptsKey(static_cast<std::int16_t>(code));
   }
 

@@ -1,13 +1,14 @@
 #include "platform/win32/ui/tool_tips.h"
 
 #include "platform/win32/system/text.h"
+#include "platform/win32/ui/dpi.h"
 #include "platform/win32/ui/system_headers.h"
 
 namespace korventally::win32 {
 namespace {
 
-/// Longer texts wrap instead of running across the screen.
-constexpr LPARAM kWidest = 400;
+/// Pixels at 96 dpi. Longer texts wrap instead of running across the screen.
+constexpr int kWidest = 400;
 
 }  // namespace
 
@@ -16,7 +17,8 @@ ToolTips::ToolTips(HWND owner)
       handle_(CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr,
                               WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, 0, 0, 0, 0, owner, nullptr,
                               GetModuleHandleW(nullptr), nullptr)) {
-  SendMessageW(handle_, TTM_SETMAXTIPWIDTH, 0, kWidest);
+  SendMessageW(handle_, TTM_SETMAXTIPWIDTH, 0,
+               MulDiv(kWidest, dpiOf(owner), USER_DEFAULT_SCREEN_DPI));
 }
 
 void ToolTips::add(HWND control, const std::string& text) {
