@@ -13,12 +13,40 @@ LONG inside(LONG start, LONG length, LONG low, LONG high) {
   return std::max(low, std::min(start, high - length));
 }
 
+/// What a window without scroll bars has around its client area.
+SIZE edgesOf(HWND window, int dpi) {
+  const auto style = static_cast<DWORD>(GetWindowLongW(window, GWL_STYLE));
+  const auto extendedStyle = static_cast<DWORD>(GetWindowLongW(window, GWL_EXSTYLE));
+  RECT edges{};
+  growToWindow(edges, style & ~(WS_VSCROLL | WS_HSCROLL), GetMenu(window) != nullptr, extendedStyle,
+               dpi);
+  return sizeOf(edges);
+}
+
 /// Of the screen that holds most of a window.
 RECT workAreaAround(HWND window) {
   MONITORINFO monitor{};
   monitor.cbSize = sizeof monitor;
   GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &monitor);
   return monitor.rcWork;
+}
+
+/// A window around its contents, no larger than the screen allows.
+struct Fit {
+  SIZE size;  ///< of the whole window
+  SIZE page;  ///< of the part of the contents that shows
+};
+
+Fit fitAround(SIZE contents, SIZE edges, SIZE most, int barWidth) {
+  SIZE size{contents.cx + edges.cx, contents.cy + edges.cy};
+  // A scroll bar on one side takes room on the other, where it may make a second one necessary.
+  SIZE bars{};
+  for (int pass = 0; pass < 2; ++pass) {
+    if (size.cy + bars.cy > most.cy) bars.cx = barWidth;
+    if (size.cx + bars.cx > most.cx) bars.cy = barWidth;
+  }
+  size = {std::min(size.cx + bars.cx, most.cx), std::min(size.cy + bars.cy, most.cy)};
+  return {size, {size.cx - edges.cx - bars.cx, size.cy - edges.cy - bars.cy}};
 }
 
 }  // namespace
@@ -29,24 +57,9 @@ void NativeWindow::fit(bool centre) {
   const int dpi = stage_.dpi();
   const SIZE contents{stage_.fromTwips(window_.place().width),
                       stage_.fromTwips(window_.place().height)};
-  const auto style = static_cast<DWORD>(GetWindowLongW(handle_, GWL_STYLE));
-  const auto extendedStyle = static_cast<DWORD>(GetWindowLongW(handle_, GWL_EXSTYLE));
-  RECT outer{0, 0, contents.cx, contents.cy};
-  growToWindow(outer, style & ~(WS_VSCROLL | WS_HSCROLL), GetMenu(handle_) != nullptr,
-               extendedStyle, stage_.dpi());
-  SIZE size = sizeOf(outer);
-  const SIZE edges{size.cx - contents.cx, size.cy - contents.cy};
-
-  // A scroll bar on one side takes room on the other, where it may make a second one necessary.
   const RECT work = workAreaAround(centre && owner_ != nullptr ? owner_ : handle_);
-  const SIZE most = sizeOf(work);
-  SIZE bars{};
-  const int barWidth = systemMetric(SM_CXVSCROLL, stage_.dpi());
-  for (int pass = 0; pass < 2; ++pass) {
-    if (size.cy + bars.cy > most.cy) bars.cx = barWidth;
-    if (size.cx + bars.cx > most.cx) bars.cy = barWidth;
-  }
-  size = {std::min(size.cx + bars.cx, most.cx), std::min(size.cy + bars.cy, most.cy)};
+  const auto [size, page] =
+      fitAround(contents, edgesOf(handle_, dpi), sizeOf(work), systemMetric(SM_CXVSCROLL, dpi));
 
   RECT at;
   GetWindowRect(handle_, &at);
@@ -60,7 +73,7 @@ void NativeWindow::fit(bool centre) {
                inside(at.top, size.cy, work.top, work.bottom), size.cx, size.cy,
                SWP_NOZORDER | SWP_NOACTIVATE);
   if (stage_.dpi() != dpi) return;  // moved to another screen, and fitted to that one meanwhile
-  scroller_.setSizes(contents, {size.cx - edges.cx - bars.cx, size.cy - edges.cy - bars.cy});
+  scroller_.setSizes(contents, page);
   placeControls();
 }
 
