@@ -112,6 +112,30 @@ TEST_F(Surroundings, TextStandsInTheMiddleOfItsBox) {
   });
 }
 
+TEST_F(Surroundings, TheFocusAndTheWheelScrollAWindowThatIsTooLarge) {
+  form.open([&] {
+    moveToScreenOf(400);
+    const auto place = [](const Control& control) {
+      RECT area;
+      GetWindowRect(nativeHandle(control), &area);
+      return area;
+    };
+    for (Control* control : std::initializer_list<Control*>{&form.last, &form.box}) {
+      form.setFocus(*control);
+      RECT view;
+      GetClientRect(nativeHandle(form), &view);
+      MapWindowPoints(nativeHandle(form), nullptr, reinterpret_cast<POINT*>(&view), 2);
+      RECT seen;
+      const RECT whole = place(*control);
+      IntersectRect(&seen, &view, &whole);
+      EXPECT_TRUE(EqualRect(&seen, &whole)) << control->text();
+    }
+    const LONG before = place(form.box).top;
+    SendMessageW(nativeHandle(form), WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA), 0);
+    EXPECT_LT(place(form.box).top, before);
+  });
+}
+
 /// Helps after five seconds, if what is tested has not ended by then.
 class Rescue {
  public:
