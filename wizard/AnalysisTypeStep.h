@@ -67,7 +67,7 @@ class AnalysisTypeStep : public WizardStep {
       frameAnalysisType, {9060, 555, 1995, 420}, "Number of OTHER Source Groups to Analyze"};
   TextBox txtNumOfOthers{frameAnalysisType, {9060, 1080, 975, 315}};
 
-  Frame Frame4;
+  NavigationColumn Frame4;
   Button cmdPrevious2{Frame4, {240, 540, 1000, 315}, "PREVIOUS"};
   Button cmdNext2{Frame4, {240, 1080, 1000, 315}, "NEXT", fonts::kBold};
 

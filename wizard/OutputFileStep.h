@@ -14,7 +14,7 @@ class OutputFileStep : public WizardStep {
   TextBox txtLSTFilename{frameOutputFile, {1440, 380, 8535, 315}, "korventally.lst", 132};
   Button cmdDefault_LST{frameOutputFile, {10080, 360, 975, 315}, "Default"};
 
-  Frame Frame7;
+  NavigationColumn Frame7;
   Button cmdPrevious5{Frame7, {240, 340, 1000, 315}, "PREVIOUS"};
 
   const ControlGroup& controls() const override { return OutputFileControls; }

@@ -40,7 +40,7 @@ class ProcessingInfoStep : public WizardStep {
   OptionButton optRank1_Include{frameRank1Values, {670, 320, 855, 210}, "Include", true};
   OptionButton optRank1_Exclude{frameRank1Values, {1870, 320, 975, 210}, "Exclude"};
 
-  Frame Frame6;
+  NavigationColumn Frame6;
   Button cmdPrevious4{Frame6, {240, 840, 1000, 315}, "PREVIOUS"};
   Button cmdNext4{Frame6, {240, 1380, 1000, 315}, "NEXT", fonts::kBold};
 

@@ -51,7 +51,7 @@ class SourceGroupsStep : public WizardStep {
                       fonts::kDefault,
                       Button::Style::kGraphical};
 
-  Frame Frame1;
+  NavigationColumn Frame1;
   Button cmdPrevious3{Frame1, {240, 900, 1000, 315}, "PREVIOUS"};
   Button cmdNext3{Frame1, {240, 1440, 1000, 315}, "NEXT", fonts::kBold};
 

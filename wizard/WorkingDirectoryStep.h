@@ -13,7 +13,7 @@ class WorkingDirectoryStep : public WizardStep {
   TextBox txtWorkDir{frameWorkingDirectory, {360, 360, 9615, 315}};
   Button cmdBrowseWorkDir{frameWorkingDirectory, {10080, 340, 975, 315}, "Browse"};
 
-  Frame Frame2;
+  NavigationColumn Frame2;
   Button cmdNext1{Frame2, {240, 340, 1000, 315}, "NEXT", fonts::kBold};
 
   const ControlGroup WorkingDirectoryControls{&frameWorkingDirectory, &cmdBrowseWorkDir, &cmdNext1};

@@ -12,6 +12,14 @@ namespace korventally {
 
 class frmKORVENTALLY;
 
+/// The column on the right of a step that holds its "PREVIOUS" and "NEXT". It has no caption and is
+/// never disabled: each of its buttons is usable when it is itself enabled.
+class NavigationColumn : public Frame {
+ public:
+  NavigationColumn(Container& window, Rect place)
+      : Frame(window, place, {}, fonts::kBold, colors::kWhite) {}
+};
+
 /// One step of the wizard: its controls, its handlers and its two control groups, the controls and
 /// the text fields that are switched when the step opens or closes.
 class WizardStep {
