@@ -37,7 +37,7 @@ TEST(Citizen, PastedPathsLoseTheirQuotes) {
   const auto expectPasted = [&](std::string_view box, const std::wstring& path) {
     wizard.enter(box, L"replaced");
     pressKey('A', VK_CONTROL);
-    copyText(L"\"" + path + L"\"\r\n");
+    copyText(L"\"" + path + L"\"\r\n\"C:\\second\"\r\n");
     pressKey('V', VK_CONTROL);
     EXPECT_TRUE(waitUntil([&] { return wizard.text(box) == path; }, 3s)) << wizard.text(box);
   };

@@ -70,6 +70,12 @@ TEST_F(NativeTruth, IsToldFromTheFirstMomentAndAfterEveryChange) {
     type(form.box, "!");
     compare(form);
     EXPECT_TRUE(isChecked(form.tick));
+    // Other programs set marks without a click.
+    SendMessageW(nativeHandle(form.tick), BM_SETCHECK, BST_UNCHECKED, 0);
+    SendMessageW(nativeHandle(form.small), BM_SETCHECK, BST_CHECKED, 0);
+    compare(form);
+    EXPECT_FALSE(form.tick.checked());
+    EXPECT_TRUE(form.small.selected());
   });
   EXPECT_EQ(nativeHandle(form.box), nullptr) << "gone with the window";
 }

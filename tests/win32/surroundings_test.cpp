@@ -10,6 +10,7 @@
 #include <thread>
 
 #include "platform/dialogs.h"
+#include "platform/events.h"
 #include "platform/later.h"
 #include "platform/win32/system/text.h"
 #include "platform/win32/ui/native_lookup.h"
@@ -69,6 +70,9 @@ TEST_F(Surroundings, DroppedFilesFillABoxForPaths) {
     EXPECT_FALSE(acceptsFiles(form.shortBox));
     drop(form.box, L"C:\\Grün & Co\\a.con");
     EXPECT_EQ(form.box.text(), "C:\\Grün & Co\\a.con");
+    EnableWindow(nativeHandle(form), FALSE);  // as under a modal window
+    drop(form.box, L"C:\\other");
+    EnableWindow(nativeHandle(form), TRUE);
     form.box.setEnabled(false);
     drop(form.box, L"C:\\other");
     EXPECT_EQ(form.box.text(), "C:\\Grün & Co\\a.con");
@@ -134,6 +138,34 @@ TEST_F(Surroundings, TheFocusAndTheWheelScrollAWindowThatIsTooLarge) {
     SendMessageW(nativeHandle(form), WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA), 0);
     EXPECT_LT(place(form.box).top, before);
   });
+}
+
+/// Taller than any screen here, with nothing to go to but a button at its end.
+class TallWindow : public Window {
+ public:
+  TallWindow() : Window("Tall", {6000, 45000}) { setTabOrder({&cmdOK}); }
+  Button cmdOK{*this, {0, 44000, 1215, 375}, "OK"};
+};
+
+TEST_F(Surroundings, ATallWindowOpensAtItsBeginningAndScrollsByKeys) {
+  TallWindow tall;
+  runLater("visit", 0, [&] {
+    HWND window = nativeHandle(tall);
+    const auto placeAfter = [&](WPARAM key) {
+      PostMessageW(nativeHandle(tall.cmdOK), WM_KEYDOWN, key, 1);
+      processPendingEvents();
+      return GetScrollPos(window, SB_VERT);
+    };
+    EXPECT_EQ(GetScrollPos(window, SB_VERT), 0);
+    const int paged = placeAfter(VK_NEXT);
+    EXPECT_GT(paged, 0);
+    EXPECT_LT(placeAfter(VK_PRIOR), paged);
+    const int end = placeAfter(VK_END);
+    EXPECT_LT(placeAfter(VK_UP), end);
+    EXPECT_EQ(placeAfter(VK_HOME), 0);
+    tall.unload();
+  });
+  tall.show();
 }
 
 /// Helps after five seconds, if what is tested has not ended by then.

@@ -15,6 +15,7 @@ class NativeCheckBox : public ChoiceControl {
 
  protected:
   bool on() const override { return box_.checked(); }
+  void adopt(bool on) override { box_.setChecked(on); }
   void command(WORD code) override {
     if (code == BN_CLICKED) box_.press();
   }

@@ -19,9 +19,20 @@ enum StateOffset { kNormal, kHot, kPressed, kDisabled };
 
 void ChoiceControl::refresh(Aspect aspect) {
   if (aspect == Aspect::kValue) {
+    fromModel_ = true;
     SendMessageW(handle(), BM_SETCHECK, on() ? BST_CHECKED : BST_UNCHECKED, 0);
+    fromModel_ = false;
   }
   PaintedControl::refresh(aspect);
+}
+
+/// The model decides what becomes of a mark that another program sets, and shows it.
+LRESULT ChoiceControl::onMessage(UINT message, WPARAM first, LPARAM second) {
+  if (message != BM_SETCHECK || fromModel_) {
+    return PaintedControl::onMessage(message, first, second);
+  }
+  if (!stage().closed() && model().usable()) adopt(first != BST_UNCHECKED);
+  return 0;
 }
 
 void ChoiceControl::paint(HDC dc, const RECT& area) {

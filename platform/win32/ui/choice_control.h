@@ -24,6 +24,9 @@ class ChoiceControl : public PaintedControl {
       : PaintedControl(model, site, L"BUTTON", style | WS_TABSTOP), mark_(mark) {}
 
   virtual bool on() const = 0;
+  /// Another program has set the mark.
+  virtual void adopt(bool on) = 0;
+  LRESULT onMessage(UINT message, WPARAM first, LPARAM second) override;
   void paint(HDC dc, const RECT& area) override;
 
  private:
@@ -32,6 +35,7 @@ class ChoiceControl : public PaintedControl {
   int paintMark(HDC dc, const RECT& area);
 
   Mark mark_;
+  bool fromModel_ = false;
 };
 
 }  // namespace korventally::win32

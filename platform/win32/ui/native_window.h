@@ -70,6 +70,7 @@ class NativeWindow : public WindowView {
   std::map<const Control*, std::unique_ptr<NativeControl>> controls_;
   int lastId_;
   bool minimised_ = false;
+  bool hadFocus_ = false;  ///< one of the controls, at some time
 };
 
 }  // namespace korventally::win32

@@ -46,6 +46,8 @@ std::optional<LRESULT> NativeWindow::handleInput(UINT message, WPARAM first, LPA
       restoreFocus();
       return 0;
     case kFocusArrived: {
+      // A window opens at its beginning, wherever the first control that takes the focus is.
+      if (!std::exchange(hadFocus_, true)) return 0;
       RECT area;
       GetWindowRect(reinterpret_cast<HWND>(second), &area);
       MapWindowPoints(nullptr, handle_, reinterpret_cast<POINT*>(&area), 2);

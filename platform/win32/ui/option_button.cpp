@@ -18,6 +18,9 @@ class NativeOptionButton : public ChoiceControl {
 
  protected:
   bool on() const override { return option_.selected(); }
+  void adopt(bool on) override {
+    if (on) option_.select();
+  }
   void command(WORD code) override {
     if (code == BN_CLICKED) option_.press();
   }

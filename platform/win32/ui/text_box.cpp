@@ -1,6 +1,7 @@
 #include "platform/text_box.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/win32/system/text.h"
 #include "platform/win32/ui/clipboard.h"
@@ -21,6 +22,11 @@ std::wstring textOf(HWND window) {
   std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
   text.resize(
       static_cast<std::size_t>(GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
+  return text;
+}
+
+std::wstring firstLine(std::wstring text) {
+  text.resize(std::min(text.find_first_of(L"\r\n"), text.size()));
   return text;
 }
 
@@ -103,8 +109,8 @@ class NativeTextBox : public NativeControl {
   }
 
   bool pasteWithoutQuotes() {
-    const std::wstring text = clipboardText(handle());
-    const std::size_t close = text.find_last_not_of(L"\r\n \t");
+    const std::wstring text = firstLine(clipboardText(handle()));
+    const std::size_t close = text.find_last_not_of(L" \t");
     if (text.empty() || text.front() != L'"' || close == 0 || close == std::wstring::npos ||
         text[close] != L'"') {
       return false;
@@ -114,7 +120,9 @@ class NativeTextBox : public NativeControl {
   }
 
   void drop(const std::wstring& path) {
-    if (stage().closed() || !box_.usable() || path.empty()) return;
+    // The system lets files fall on a window that lies under a modal one.
+    const bool covered = !IsWindowEnabled(GetAncestor(handle(), GA_ROOT));
+    if (stage().closed() || covered || !box_.usable() || path.empty()) return;
     box_.window().setFocus(box_);
     // Whole, however long it is: the limit is one of typing, and a path cut short leads nowhere.
     SetWindowTextW(handle(), path.c_str());
@@ -123,7 +131,7 @@ class NativeTextBox : public NativeControl {
 
   /// As if the person had typed it: on one line and within the limit.
   void replaceSelection(std::wstring text) {
-    text.resize(std::min(text.find_first_of(L"\r\n"), text.size()));
+    text = firstLine(std::move(text));
     if (box_.limit() > 0) text.resize(std::min(text.size(), room()));
     SendMessageW(handle(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(text.c_str()));
   }
