@@ -10,8 +10,7 @@ enum class Buttons { kOk, kYesNo };
 enum class Answer { kOk, kYes, kNo };
 
 /// Shows a modal message box without an icon and returns the button pressed; closing the box is
-/// "OK" or "No". `owner` may be none, or
-/// closed by now.
+/// "OK" or "No". `owner` may be none, or closed by now.
 Answer messageBox(Window* owner, const std::string& text, const std::string& title,
                   Buttons buttons = Buttons::kOk);
 

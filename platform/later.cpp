@@ -28,9 +28,9 @@ std::vector<Action>& actions() {
   return list;
 }
 
-bool& hurrying() {
-  static bool now = false;
-  return now;
+bool& noTimeLeft() {
+  static bool none = false;
+  return none;
 }
 
 std::vector<Action>::iterator nextAction() {
@@ -72,7 +72,7 @@ std::optional<std::uint32_t> untilNextDue() {
 
 void forgetLater() {
   actions().clear();
-  hurrying() = false;
+  noTimeLeft() = false;
 }
 
 void finishLater() {
@@ -80,10 +80,10 @@ void finishLater() {
 }
 
 void hurryLater() {
-  hurrying() = true;
+  noTimeLeft() = true;
   while (!actions().empty()) runAndRemove(actions().begin());
 }
 
-bool timeIsUp() { return hurrying(); }
+bool timeIsUp() { return noTimeLeft(); }
 
 }  // namespace korventally

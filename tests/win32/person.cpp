@@ -2,8 +2,7 @@
 
 #include <windows.h>
 
-#include <algorithm>
-
+#include "demo/input.h"
 #include "platform/events.h"
 #include "platform/win32/system/text.h"
 #include "platform/win32/ui/native_lookup.h"
@@ -80,18 +79,6 @@ WPARAM codeOf(Key key) {
   return 0;
 }
 
-/// Puts text on the clipboard, as copying it in another program does.
-void copy(const std::wstring& text) {
-  const std::size_t bytes = (text.size() + 1) * sizeof(wchar_t);
-  HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, bytes);
-  std::copy_n(text.c_str(), text.size() + 1, static_cast<wchar_t*>(GlobalLock(memory)));
-  GlobalUnlock(memory);
-  OpenClipboard(nullptr);
-  EmptyClipboard();
-  SetClipboardData(CF_UNICODETEXT, memory);
-  CloseClipboard();
-}
-
 }  // namespace
 
 void click(Control& control) {
@@ -121,7 +108,7 @@ void paste(TextBox& box, const std::string& text) {
   if (!focusOn(edit)) return;
   SendMessageW(edit, EM_SETSEL, 0, -1);
   if (text.empty()) return post(edit, WM_CLEAR, 0, 0);
-  copy(win32::toWide(text));
+  demo::copyText(win32::toWide(text));
   post(edit, WM_PASTE, 0, 0);
 }
 

@@ -4,6 +4,7 @@
 #include <shellapi.h>
 #include <shlobj.h>
 
+#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <mutex>
@@ -185,7 +186,7 @@ class Rescue {
 };
 
 TEST_F(Surroundings, AnotherProgramCanCloseAWindowThatWaits) {
-  bool rescued = false;
+  std::atomic<bool> rescued = false;
   const Rescue rescue([&, thread = GetCurrentThreadId()] {
     rescued = true;
     PostThreadMessageW(thread, WM_NULL, 0, 0);

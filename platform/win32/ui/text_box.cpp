@@ -129,9 +129,8 @@ class NativeTextBox : public NativeControl {
     SendMessageW(handle(), EM_SETSEL, path.size(), static_cast<LPARAM>(path.size()));
   }
 
-  /// As if the person had typed it: on one line and within the limit.
+  /// As if the person had typed it: within the limit.
   void replaceSelection(std::wstring text) {
-    text = firstLine(std::move(text));
     if (box_.limit() > 0) text.resize(std::min(text.size(), room()));
     SendMessageW(handle(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(text.c_str()));
   }
