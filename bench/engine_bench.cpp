@@ -23,73 +23,73 @@ struct Made {
   std::int64_t bytes;
 };
 
-Made Make(const StudySize& size) {
+Made make(const StudySize& size) {
   const char* chosen = std::getenv("KORVENTALLY_BENCH_DIR");
   const auto base = chosen ? std::filesystem::path(chosen)
                            : std::filesystem::temp_directory_path() / "korventally_bench";
   const auto folder = base / (std::to_string(size.hours) + "x" + std::to_string(size.receptors) +
                               "x" + std::to_string(size.groups));
-  return {folder, static_cast<std::int64_t>(MakeStudy(folder, size))};
+  return {folder, static_cast<std::int64_t>(makeStudy(folder, size))};
 }
 
-engine::Blocks DaysOf(const StudySize& size) {
+engine::Blocks daysOf(const StudySize& size) {
   const auto days = static_cast<std::int64_t>(size.hours / 24);
-  return {*engine::HourFromDate(2009, 1, 1, 0), 24, days, 0, false};
+  return {*engine::hourFromDate(2009, 1, 1, 0), 24, days, 0, false};
 }
 
 // A year of 1,000 receptors and 5 groups, from the control file to the verdict. The argument is
 // the averaging period. Bytes per second are those of the clock, with as many threads as cores.
-void WholeRun(benchmark::State& state) {
+void wholeRun(benchmark::State& state) {
   StudySize size;
-  size.averaging_hours = static_cast<std::size_t>(state.range(0));
-  const Made study = Make(size);
+  size.averagingHours = static_cast<std::size_t>(state.range(0));
+  const Made study = make(size);
   for (auto _ : state) {
-    if (!engine::RunCase(study.folder / "korventally.inp").sentence.empty()) {
+    if (!engine::runCase(study.folder / "korventally.inp").sentence.empty()) {
       state.SkipWithError("the run failed");
     }
   }
   state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) * study.bytes);
 }
-BENCHMARK(WholeRun)->Arg(24)->Arg(3)->Arg(8760)->UseRealTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(wholeRun)->Arg(24)->Arg(3)->Arg(8760)->UseRealTime()->Unit(benchmark::kMillisecond);
 
-void ReadFile(const std::filesystem::path& path, const StudySize& size) {
+void readFile(const std::filesystem::path& path, const StudySize& size) {
   engine::InputFile file(path);
   const auto sums =
-      engine::ReadConcentrations(file, DaysOf(size), size.receptors, [] { return false; });
+      engine::readConcentrations(file, daysOf(size), size.receptors, [] { return false; });
   benchmark::DoNotOptimize(sums.sums.data());
 }
 
 // One file of that year on one core.
-void OneFile(benchmark::State& state) {
+void oneFile(benchmark::State& state) {
   const StudySize size;
-  const Made study = Make(size);
-  for (auto _ : state) ReadFile(study.folder / ConcentrationName(0), size);
+  const Made study = make(size);
+  for (auto _ : state) readFile(study.folder / concentrationName(0), size);
   state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) * study.bytes / 5);
 }
-BENCHMARK(OneFile)->Unit(benchmark::kMillisecond);
+BENCHMARK(oneFile)->Unit(benchmark::kMillisecond);
 
 // The same file cut into lines only: what the system's reading costs.
-void OneFileLinesOnly(benchmark::State& state) {
+void oneFileLinesOnly(benchmark::State& state) {
   const StudySize size;
-  const Made study = Make(size);
+  const Made study = make(size);
   for (auto _ : state) {
-    engine::InputFile file(study.folder / ConcentrationName(0));
+    engine::InputFile file(study.folder / concentrationName(0));
     engine::LineReader reader(file, 1 << 20);
-    for (std::string_view line; reader.Next(line);) benchmark::DoNotOptimize(line.data());
+    for (std::string_view line; reader.next(line);) benchmark::DoNotOptimize(line.data());
   }
   state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) * study.bytes / 5);
 }
-BENCHMARK(OneFileLinesOnly)->Unit(benchmark::kMillisecond);
+BENCHMARK(oneFileLinesOnly)->Unit(benchmark::kMillisecond);
 
 // The same file with nothing but std::from_chars: what reading eight bytes at a time saves.
-void OneFileFromChars(benchmark::State& state) {
+void oneFileFromChars(benchmark::State& state) {
   const StudySize size;
-  const Made study = Make(size);
+  const Made study = make(size);
   for (auto _ : state) {
-    engine::InputFile file(study.folder / ConcentrationName(0));
+    engine::InputFile file(study.folder / concentrationName(0));
     engine::LineReader reader(file, 1 << 20);
     std::vector<double> sums(size.receptors + 4);
-    for (std::string_view line; reader.Next(line);) {
+    for (std::string_view line; reader.next(line);) {
       const char* at = line.data();
       for (double& sum : sums) {
         double value = 0;
@@ -102,21 +102,21 @@ void OneFileFromChars(benchmark::State& state) {
   }
   state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) * study.bytes / 5);
 }
-BENCHMARK(OneFileFromChars)->Unit(benchmark::kMillisecond);
+BENCHMARK(oneFileFromChars)->Unit(benchmark::kMillisecond);
 
 // From one day to five years of hours: the cost of one value must stay flat.
-void CostOfAValue(benchmark::State& state) {
+void costOfAValue(benchmark::State& state) {
   StudySize size;
   size.hours = static_cast<std::size_t>(state.range(0));
   size.receptors = static_cast<std::size_t>(state.range(1));
   size.groups = 2;
-  const Made study = Make(size);
-  for (auto _ : state) ReadFile(study.folder / ConcentrationName(0), size);
+  const Made study = make(size);
+  for (auto _ : state) readFile(study.folder / concentrationName(0), size);
   const double values = static_cast<double>(size.hours) * static_cast<double>(size.receptors);
   state.counters["per_value"] = benchmark::Counter(
       values, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
 }
-BENCHMARK(CostOfAValue)
+BENCHMARK(costOfAValue)
     ->ArgsProduct({{24, 720, 8760, 43800}, {25, 250}})
     ->Unit(benchmark::kMillisecond);
 

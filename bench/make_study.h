@@ -11,15 +11,15 @@ struct StudySize {
   std::size_t hours = 8760;
   std::size_t receptors = 1000;
   std::size_t groups = 5;
-  std::size_t averaging_hours = 24;
+  std::size_t averagingHours = 24;
 };
 
-// Writes all.con, group_2.con ... , receptors.dat and korventally.inp (list file out.lst) into the
-// folder, from 2009-01-01 hour 00 on, and returns the bytes of the concentration files. The same
-// size gives the same bytes. A study that is already there is not written again.
-std::uintmax_t MakeStudy(const std::filesystem::path& folder, const StudySize& size);
+/// Writes all.con, group_2.con ... , receptors.dat and korventally.inp (list file out.lst) into the
+/// folder, from 2009-01-01 hour 00 on, and returns the bytes of the concentration files. The same
+/// size gives the same bytes. A study that is already there is not written again.
+std::uintmax_t makeStudy(const std::filesystem::path& folder, const StudySize& size);
 
-// The name of the concentration file of this group, counted from 0.
-std::string ConcentrationName(std::size_t group);
+/// The name of the concentration file of this group, counted from 0.
+std::string concentrationName(std::size_t group);
 
 }  // namespace korventally::bench

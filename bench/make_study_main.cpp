@@ -13,9 +13,9 @@ int main(int count, char** arguments) {
   size.hours = std::strtoul(arguments[2], nullptr, 10);
   size.receptors = std::strtoul(arguments[3], nullptr, 10);
   size.groups = std::strtoul(arguments[4], nullptr, 10);
-  size.averaging_hours = std::strtoul(arguments[5], nullptr, 10);
+  size.averagingHours = std::strtoul(arguments[5], nullptr, 10);
   const auto folder = std::filesystem::absolute(arguments[1]);
-  const auto bytes = korventally::bench::MakeStudy(folder, size);
+  const auto bytes = korventally::bench::makeStudy(folder, size);
   std::printf("%.1f MB of concentrations in %s\n", static_cast<double>(bytes) / 1e6,
               folder.string().c_str());
   return 0;

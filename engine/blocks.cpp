@@ -4,38 +4,39 @@
 #include "engine/text.h"
 
 namespace korventally::engine {
-
 namespace {
 
 constexpr std::int64_t kCommonYear = 8760;
 constexpr std::int64_t kLeapYear = 8784;
 
-std::string Hours(std::int64_t hours) { return Counted(static_cast<std::uint64_t>(hours), "hour"); }
+std::string hoursText(std::int64_t hours) {
+  return counted(static_cast<std::uint64_t>(hours), "hour");
+}
 
-Blocks PlanAnnual(const Case& the_case) {
-  const std::int64_t year = HoursOfYearFrom(the_case.start);
-  if (the_case.run_hours > year) {
-    throw Fault("The run length of " + Hours(the_case.run_hours) +
-                " is longer than the year that begins at " + DateText(the_case.start) + " (" +
-                Hours(year) + "); an annual average covers one year at most.");
+Blocks planAnnual(const Case& theCase) {
+  const std::int64_t year = hoursOfYearFrom(theCase.start);
+  if (theCase.runHours > year) {
+    throw Fault("The run length of " + hoursText(theCase.runHours) +
+                " is longer than the year that begins at " + dateText(theCase.start) + " (" +
+                hoursText(year) + "); an annual average covers one year at most.");
   }
-  return {the_case.start, the_case.run_hours, 1, 0, true};
+  return {theCase.start, theCase.runHours, 1, 0, true};
 }
 
 }  // namespace
 
-Blocks PlanBlocks(const Case& the_case) {
-  const std::int64_t hours = the_case.averaging_hours;
-  if (hours == kCommonYear || hours == kLeapYear) return PlanAnnual(the_case);
+Blocks planBlocks(const Case& theCase) {
+  const std::int64_t hours = theCase.averagingHours;
+  if (hours == kCommonYear || hours == kLeapYear) return planAnnual(theCase);
   if (hours > kCommonYear) {
-    throw Fault("The averaging period of " + Hours(hours) +
+    throw Fault("The averaging period of " + hoursText(hours) +
                 " is neither an annual one (8760 or 8784) nor shorter than a year.");
   }
-  if (hours > the_case.run_hours) {
-    throw Fault("The run length of " + Hours(the_case.run_hours) +
-                " is shorter than one averaging period of " + Hours(hours) + ".");
+  if (hours > theCase.runHours) {
+    throw Fault("The run length of " + hoursText(theCase.runHours) +
+                " is shorter than one averaging period of " + hoursText(hours) + ".");
   }
-  return {the_case.start, hours, the_case.run_hours / hours, the_case.run_hours % hours, false};
+  return {theCase.start, hours, theCase.runHours / hours, theCase.runHours % hours, false};
 }
 
 }  // namespace korventally::engine

@@ -4,24 +4,23 @@
 #include <cstdio>
 
 namespace korventally::engine {
-
 namespace {
 
 using std::chrono::sys_days;
 using std::chrono::year_month_day;
 
-year_month_day DateOf(Hour hour) {
+year_month_day dateOf(Hour hour) {
   return year_month_day(std::chrono::floor<std::chrono::days>(
       std::chrono::sys_time<std::chrono::hours>(std::chrono::hours(hour))));
 }
 
-Hour FirstHourOf(const year_month_day& date) {
+Hour firstHourOf(const year_month_day& date) {
   return Hour{sys_days(date).time_since_epoch().count()} * 24;
 }
 
 }  // namespace
 
-std::optional<Hour> HourFromDate(std::int64_t year, std::int64_t month, std::int64_t day,
+std::optional<Hour> hourFromDate(std::int64_t year, std::int64_t month, std::int64_t day,
                                  std::int64_t hour) {
   if (year < 1 || year > 9999 || month < 1 || month > 12 || day < 1 || day > 31) return {};
   if (hour < 0 || hour > 24) return {};
@@ -29,26 +28,26 @@ std::optional<Hour> HourFromDate(std::int64_t year, std::int64_t month, std::int
                             std::chrono::month(static_cast<unsigned>(month)),
                             std::chrono::day(static_cast<unsigned>(day)));
   if (!date.ok()) return {};
-  return FirstHourOf(date) + hour;
+  return firstHourOf(date) + hour;
 }
 
-std::string DateText(Hour hour) {
-  const year_month_day date = DateOf(hour);
+std::string dateText(Hour hour) {
+  const year_month_day date = dateOf(hour);
   char text[32];
   std::snprintf(text, sizeof text, "%04d-%02u-%02u %02d", static_cast<int>(date.year()),
                 static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()),
-                static_cast<int>(hour - FirstHourOf(date)));
+                static_cast<int>(hour - firstHourOf(date)));
   return text;
 }
 
-std::int64_t HoursOfYearFrom(Hour start) {
-  const year_month_day date = DateOf(start);
+std::int64_t hoursOfYearFrom(Hour start) {
+  const year_month_day date = dateOf(start);
   year_month_day next = date + std::chrono::years(1);
   // 29 February has no namesake next year: the year then ends where 1 March begins.
   if (!next.ok()) {
     next = year_month_day(next.year(), std::chrono::March, std::chrono::day(1));
   }
-  return FirstHourOf(next) - FirstHourOf(date);
+  return firstHourOf(next) - firstHourOf(date);
 }
 
 }  // namespace korventally::engine

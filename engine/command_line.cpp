@@ -7,10 +7,9 @@
 #include "engine/version.h"
 
 namespace korventally::engine {
-
 namespace {
 
-int ShowUsage() {
+int showUsage() {
   std::fprintf(stderr,
                "%s, version %s\n"
                "Usage: korventally CONTROL-FILE\n"
@@ -21,9 +20,9 @@ int ShowUsage() {
 
 }  // namespace
 
-int Main(const std::vector<NativePath>& arguments) {
-  if (arguments.size() != 2) return ShowUsage();
-  const Result result = RunCase(arguments[1]);
+int runCommandLine(const std::vector<NativePath>& arguments) {
+  if (arguments.size() != 2) return showUsage();
+  const Result result = runCase(arguments[1]);
   if (!result.sentence.empty()) std::fprintf(stderr, "korventally: %s\n", result.sentence.c_str());
   return static_cast<int>(result.outcome);
 }

@@ -7,7 +7,7 @@
 
 namespace korventally::engine {
 
-// Runs the engine on arguments[1] and returns the exit code; a fault also goes to standard error.
-int Main(const std::vector<NativePath>& arguments);
+/// Runs the engine on arguments[1] and returns the exit code; a fault also goes to standard error.
+int runCommandLine(const std::vector<NativePath>& arguments);
 
 }  // namespace korventally::engine

@@ -12,20 +12,20 @@
 
 namespace korventally::engine {
 
-// What one file came to. Memory: one double per receptor and block, however many hours there are.
+/// What one file came to. Memory: one double per receptor and block, however many hours there are.
 struct GroupSums {
-  std::vector<double> sums;  // g/m**3, summed over the hours of a block; [block][receptor]
+  std::vector<double> sums;  ///< g/m**3, summed over the hours of a block; [block][receptor]
   std::uint64_t bytes = 0;
   std::uint64_t lines = 0;
-  std::uint64_t hours = 0;  // in the whole file
+  std::uint64_t hours = 0;  ///< in the whole file
   Hour first = 0;
   Hour last = 0;
 };
 
-// Reads the whole file, the hours outside the run too, and checks every line of it. Hours must
-// follow each other without a gap, and all hours of the blocks must be there. Throws Fault with
-// file and line. `give_up` is asked now and then; once it says true, the sums are left unfinished.
-GroupSums ReadConcentrations(InputFile& file, const Blocks& blocks, std::size_t receptors,
-                             const std::function<bool()>& give_up);
+/// Reads the whole file, the hours outside the run too, and checks every line of it. Hours must
+/// follow each other without a gap, and all hours of the blocks must be there. Throws Fault with
+/// file and line. `giveUp` is asked now and then; once it says true, the sums are left unfinished.
+GroupSums readConcentrations(InputFile& file, const Blocks& blocks, std::size_t receptors,
+                             const std::function<bool()>& giveUp);
 
 }  // namespace korventally::engine

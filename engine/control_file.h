@@ -16,46 +16,46 @@
 namespace korventally::engine {
 
 struct SourceGroup {
-  std::string name;  // 1 to 13 characters
-  std::string file;  // bytes of the ANSI code page, as everything textual here
-  std::size_t file_line = 0;
+  std::string name;  ///< 1 to 13 characters
+  std::string file;  ///< bytes of the ANSI code page, as everything textual here
+  std::size_t fileLine = 0;
 };
 
 struct Case {
-  std::string list_file;
+  std::string listFile;
   std::string species;
   Hour start = 0;
-  std::int64_t run_hours = 0;       // 1 to 999,999
-  std::vector<SourceGroup> groups;  // 2 to 50: all sources, the facility, the others
-  double scale = 0;                 // from g/m**3 to ug/m**3
-  double offset = 0;                // ug/m**3
-  double background = 0;            // ug/m**3, for the first group only
-  std::int64_t averaging_hours = 0;
-  double standard = 0;      // ug/m**3, above 0
-  double sil = 0;           // ug/m**3, above 0
-  int receptor_format = 1;  // 1: X, Y, ID; 2: rank, value, X, Y, ID
-  std::string receptor_file;
-  std::size_t receptor_line = 0;
-  bool exclude_rank1 = false;
+  std::int64_t runHours = 0;        ///< 1 to 999,999
+  std::vector<SourceGroup> groups;  ///< 2 to 50: all sources, the facility, the others
+  double scale = 0;                 ///< from g/m**3 to ug/m**3
+  double offset = 0;                ///< ug/m**3
+  double background = 0;            ///< ug/m**3, for the first group only
+  std::int64_t averagingHours = 0;
+  double standard = 0;     ///< ug/m**3, above 0
+  double sil = 0;          ///< ug/m**3, above 0
+  int receptorFormat = 1;  ///< 1: X, Y, ID; 2: rank, value, X, Y, ID
+  std::string receptorFile;
+  std::size_t receptorLine = 0;
+  bool excludeRank1 = false;
 };
 
-// The lines of a control file as they stand there, without their line ends.
+/// The lines of a control file as they stand there, without their line ends.
 struct ControlText {
   std::vector<std::string> lines;
-  bool complete = true;  // false when the last line has no line end
+  bool complete = true;  ///< false when the last line has no line end
 };
 
-// Throws Fault when the file cannot be read or is far too long for a control file.
-ControlText ReadControlText(const NativePath& path);
+/// Throws Fault when the file cannot be read or is far too long for a control file.
+ControlText readControlText(const NativePath& path);
 
-// The path of the list file, from line 1, so that the other faults can be told there.
-std::string ListFileOf(const ControlText& text);
+/// The path of the list file, from line 1, so that the other faults can be told there.
+std::string listFileOf(const ControlText& text);
 
-// The case, or Fault with the number of the first line at fault.
-Case ParseControl(const ControlText& text);
+/// The case, or Fault with the number of the first line at fault.
+Case parseControl(const ControlText& text);
 
-// Throws Fault when the list file is the control file or any file that the control file names:
-// creating the list file would empty it.
-void RefuseListFileAmongInputs(const ControlText& text, const NativePath& control_file);
+/// Throws Fault when the list file is the control file or any file that the control file names:
+/// creating the list file would empty it.
+void refuseListFileAmongInputs(const ControlText& text, const NativePath& controlFile);
 
 }  // namespace korventally::engine

@@ -19,73 +19,72 @@
 #include "engine/text.h"
 
 namespace korventally::engine {
-
 namespace {
 
 using Clock = std::chrono::steady_clock;
 
 // The file that a line of the control file names; a fault says which line that was.
-std::unique_ptr<InputFile> OpenNamedFile(const std::string& path, std::size_t control_line) {
+std::unique_ptr<InputFile> openNamedFile(const std::string& path, std::size_t controlLine) {
   try {
-    return std::make_unique<InputFile>(PathFromText(path));
+    return std::make_unique<InputFile>(pathFromText(path));
   } catch (const Fault& fault) {
-    throw Fault("Line " + std::to_string(control_line) + " of the control file: " + fault.what());
+    throw Fault("Line " + std::to_string(controlLine) + " of the control file: " + fault.what());
   }
 }
 
-std::vector<std::unique_ptr<InputFile>> OpenGroups(const Case& the_case) {
+std::vector<std::unique_ptr<InputFile>> openGroups(const Case& theCase) {
   std::vector<std::unique_ptr<InputFile>> files;
-  for (const SourceGroup& group : the_case.groups) {
-    files.push_back(OpenNamedFile(group.file, group.file_line));
+  for (const SourceGroup& group : theCase.groups) {
+    files.push_back(openNamedFile(group.file, group.fileLine));
   }
   return files;
 }
 
-std::vector<GroupSums> ReadAll(const Case& the_case,
+std::vector<GroupSums> readAll(const Case& theCase,
                                const std::vector<std::unique_ptr<InputFile>>& files,
                                const Blocks& blocks, std::size_t receptors, ListFile& list) {
   try {
-    return ReadGroups(files, blocks, receptors, [&](std::size_t i, const GroupSums& sums) {
-      ReportGroupFile(the_case.groups[i], sums, receptors, list);
+    return readGroups(files, blocks, receptors, [&](std::size_t i, const GroupSums& sums) {
+      reportGroupFile(theCase.groups[i], sums, receptors, list);
     });
   } catch (const std::bad_alloc&) {
     const auto averages = static_cast<std::uint64_t>(blocks.count) * receptors * files.size();
-    throw Fault("There is not enough memory for the " + Counted(averages, "average") +
-                " of this case (" + Grouped(averages * sizeof(double) / 1000000 + 1) + " MB).");
+    throw Fault("There is not enough memory for the " + counted(averages, "average") +
+                " of this case (" + grouped(averages * sizeof(double) / 1000000 + 1) + " MB).");
   }
 }
 
-void ReportElapsed(Clock::time_point begin, ListFile& list) {
+void reportElapsed(Clock::time_point begin, ListFile& list) {
   const std::chrono::duration<double> elapsed = Clock::now() - begin;
-  list.Line("Elapsed time: " + Fixed(elapsed.count(), 2) + " s");
-  list.Line();
+  list.line("Elapsed time: " + fixed(elapsed.count(), 2) + " s");
+  list.line();
 }
 
-void Compute(const Case& the_case, ListFile& list) {
+void compute(const Case& theCase, ListFile& list) {
   const auto begin = Clock::now();
-  ReportCase(the_case, list);
-  const Blocks blocks = PlanBlocks(the_case);
-  const auto files = OpenGroups(the_case);
-  const auto receptor_file = OpenNamedFile(the_case.receptor_file, the_case.receptor_line);
-  const Receptors receptors = ReadReceptors(*receptor_file, the_case.receptor_format);
+  reportCase(theCase, list);
+  const Blocks blocks = planBlocks(theCase);
+  const auto files = openGroups(theCase);
+  const auto receptorFile = openNamedFile(theCase.receptorFile, theCase.receptorLine);
+  const Receptors receptors = readReceptors(*receptorFile, theCase.receptorFormat);
   const std::size_t count = receptors.list.size();
-  ReportReceptorFile(the_case, receptors, list);
-  const std::vector<GroupSums> groups = ReadAll(the_case, files, blocks, count, list);
-  ReportAverages(the_case, blocks, list);
-  const Names names{the_case, blocks, receptors.list};
-  const Averages averages(the_case, blocks, groups, count);
-  const Judgement judgement = Judge(the_case, averages);
-  ReportMaxima(names, judgement, list);
-  ReportCounts(names, judgement, list);
-  ReportExceedances(names, averages, judgement, list);
-  ReportLeftOut(names, judgement, list);
-  ReportWarnings(names, averages, judgement, list);
-  ReportElapsed(begin, list);
+  reportReceptorFile(theCase, receptors, list);
+  const std::vector<GroupSums> groups = readAll(theCase, files, blocks, count, list);
+  reportAverages(theCase, blocks, list);
+  const Names names{theCase, blocks, receptors.list};
+  const Averages averages(theCase, blocks, groups, count);
+  const Judgement judgement = judge(theCase, averages);
+  reportMaxima(names, judgement, list);
+  reportCounts(names, judgement, list);
+  reportExceedances(names, averages, judgement, list);
+  reportLeftOut(names, judgement, list);
+  reportWarnings(names, averages, judgement, list);
+  reportElapsed(begin, list);
 }
 
 // Runs the work and hands back its fault as a sentence; no exception passes.
 template <typename Work>
-std::string SentenceOf(const Work& work) noexcept {
+std::string sentenceOf(const Work& work) noexcept {
   try {
     work();
     return {};
@@ -96,25 +95,25 @@ std::string SentenceOf(const Work& work) noexcept {
   }
 }
 
-Result RunIntoListFile(const ControlText& text, ListFile& list) {
-  const std::string sentence = SentenceOf([&] {
-    ReportTitle(list);
-    Compute(ParseControl(text), list);
-    list.Complete();
+Result runIntoListFile(const ControlText& text, ListFile& list) {
+  const std::string sentence = sentenceOf([&] {
+    reportTitle(list);
+    compute(parseControl(text), list);
+    list.complete();
   });
   if (sentence.empty()) return {};
-  return {list.Fail(sentence) ? Outcome::kFailed : Outcome::kNoListFile, sentence};
+  return {list.fail(sentence) ? Outcome::kFailed : Outcome::kNoListFile, sentence};
 }
 
 }  // namespace
 
-Result RunCase(const NativePath& control_file) noexcept {
+Result runCase(const NativePath& controlFile) noexcept {
   Result result;
-  const std::string sentence = SentenceOf([&] {
-    const ControlText text = ReadControlText(control_file);
-    RefuseListFileAmongInputs(text, control_file);
-    ListFile list(PathFromText(ListFileOf(text)));
-    result = RunIntoListFile(text, list);
+  const std::string sentence = sentenceOf([&] {
+    const ControlText text = readControlText(controlFile);
+    refuseListFileAmongInputs(text, controlFile);
+    ListFile list(pathFromText(listFileOf(text)));
+    result = runIntoListFile(text, list);
   });
   if (!sentence.empty()) result = {Outcome::kNoListFile, sentence};
   return result;

@@ -8,7 +8,6 @@
 #include <thread>
 
 namespace korventally::engine {
-
 namespace {
 
 class Crew {
@@ -20,28 +19,28 @@ class Crew {
         receptors_(receptors),
         finished_(files.size()),
         results_(files.size()),
-        first_fault_(files.size()) {
+        firstFault_(files.size()) {
     const std::size_t processors = std::max(1u, std::thread::hardware_concurrency());
-    Start(std::min(processors, files.size()));
+    start(std::min(processors, files.size()));
   }
 
   Crew(const Crew&) = delete;
   Crew& operator=(const Crew&) = delete;
 
   ~Crew() {
-    first_fault_ = 0;  // whoever still reads may stop
+    firstFault_ = 0;  // whoever still reads may stop
     for (std::thread& thread : threads_) thread.join();
   }
 
   // Waits for this file; throws its fault.
-  const GroupSums& Await(std::size_t index) {
+  const GroupSums& await(std::size_t index) {
     std::unique_lock lock(mutex_);
     changed_.wait(lock, [&] { return finished_[index].done; });
     if (finished_[index].fault) std::rethrow_exception(finished_[index].fault);
     return results_[index];
   }
 
-  std::vector<GroupSums> Results() { return std::move(results_); }
+  std::vector<GroupSums> results() { return std::move(results_); }
 
  private:
   struct Finished {
@@ -49,32 +48,32 @@ class Crew {
     std::exception_ptr fault;
   };
 
-  void Start(std::size_t count) {
+  void start(std::size_t count) {
     try {
-      while (threads_.size() < count) threads_.emplace_back([this] { Work(); });
+      while (threads_.size() < count) threads_.emplace_back([this] { work(); });
     } catch (const std::exception&) {
       // Fewer hands do the same work; with none, this thread does it.
-      if (threads_.empty()) Work();
+      if (threads_.empty()) work();
     }
   }
 
-  void Work() {
+  void work() {
     for (std::size_t index = next_++; index < files_.size(); index = next_++) {
       std::exception_ptr fault;
       try {
-        results_[index] = ReadConcentrations(*files_[index], blocks_, receptors_,
-                                             [&] { return first_fault_ < index; });
+        results_[index] = readConcentrations(*files_[index], blocks_, receptors_,
+                                             [&] { return firstFault_ < index; });
       } catch (...) {
         fault = std::current_exception();
       }
-      Report(index, fault);
+      report(index, fault);
     }
   }
 
-  void Report(std::size_t index, const std::exception_ptr& fault) {
+  void report(std::size_t index, const std::exception_ptr& fault) {
     const std::lock_guard lock(mutex_);
     finished_[index] = {true, fault};
-    if (fault) first_fault_ = std::min<std::size_t>(first_fault_, index);
+    if (fault) firstFault_ = std::min<std::size_t>(firstFault_, index);
     changed_.notify_all();
   }
 
@@ -86,18 +85,18 @@ class Crew {
   std::vector<Finished> finished_;
   std::vector<GroupSums> results_;
   std::atomic<std::size_t> next_ = 0;
-  std::atomic<std::size_t> first_fault_;  // files behind it need not be read any more
+  std::atomic<std::size_t> firstFault_;  // files behind it need not be read any more
   std::vector<std::thread> threads_;
 };
 
 }  // namespace
 
-std::vector<GroupSums> ReadGroups(std::span<const std::unique_ptr<InputFile>> files,
+std::vector<GroupSums> readGroups(std::span<const std::unique_ptr<InputFile>> files,
                                   const Blocks& blocks, std::size_t receptors,
                                   const std::function<void(std::size_t, const GroupSums&)>& done) {
   Crew crew(files, blocks, receptors);
-  for (std::size_t i = 0; i < files.size(); ++i) done(i, crew.Await(i));
-  return crew.Results();
+  for (std::size_t i = 0; i < files.size(); ++i) done(i, crew.await(i));
+  return crew.results();
 }
 
 }  // namespace korventally::engine

@@ -11,10 +11,10 @@
 
 namespace korventally::engine {
 
-// One thread per processor, at most one per file. `done` is called on the calling thread, in the
-// order of the files, once the sums of that file and of all before it are known. Of several
-// faults the one of the first file is thrown, whichever thread met its fault first.
-std::vector<GroupSums> ReadGroups(std::span<const std::unique_ptr<InputFile>> files,
+/// One thread per processor, at most one per file. `done` is called on the calling thread, in the
+/// order of the files, once the sums of that file and of all before it are known. Of several
+/// faults the one of the first file is thrown, whichever thread met its fault first.
+std::vector<GroupSums> readGroups(std::span<const std::unique_ptr<InputFile>> files,
                                   const Blocks& blocks, std::size_t receptors,
                                   const std::function<void(std::size_t, const GroupSums&)>& done);
 

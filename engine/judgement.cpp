@@ -4,7 +4,6 @@
 #include <tuple>
 
 namespace korventally::engine {
-
 namespace {
 
 constexpr double kRounding = 1e-9;
@@ -13,7 +12,7 @@ constexpr double kRounding = 1e-9;
 constexpr double kMisfitShare = 1e-3;
 constexpr double kMisfitFloor = 1e-3;  // ug/m**3
 
-bool ComesFirst(const Place& one, const Place& other) {
+bool comesFirst(const Place& one, const Place& other) {
   return std::tuple(-one.value, one.block, one.receptor) <
          std::tuple(-other.value, other.block, other.receptor);
 }
@@ -22,7 +21,7 @@ bool ComesFirst(const Place& one, const Place& other) {
 struct TopTwo {
   Place first, second;
 
-  void Take(const Place& place) {
+  void take(const Place& place) {
     // What differs by rounding alone is equal, and of equal ones the earliest is the highest.
     if (place.value > first.value * (1 + kRounding)) {
       second = first;
@@ -33,54 +32,54 @@ struct TopTwo {
   }
 };
 
-std::vector<TopTwo> TopTwoOfReceptors(const Averages& averages, std::size_t group) {
+std::vector<TopTwo> topTwoOfReceptors(const Averages& averages, std::size_t group) {
   constexpr double kNone = -1;  // below every average
   const TopTwo none{{0, 0, kNone}, {0, 0, kNone}};
   std::vector<TopTwo> tops(averages.receptors(), none);
   for (std::size_t block = 0; block < averages.blocks(); ++block) {
     for (std::size_t receptor = 0; receptor < averages.receptors(); ++receptor) {
-      tops[receptor].Take({block, receptor, averages.Total(group, block, receptor)});
+      tops[receptor].take({block, receptor, averages.total(group, block, receptor)});
     }
   }
   return tops;
 }
 
-Maxima MaximaOf(const std::vector<TopTwo>& tops, bool has_second) {
+Maxima maximaOf(const std::vector<TopTwo>& tops, bool hasSecond) {
   Maxima maxima{tops.front().first, {}};
   Place second = tops.front().second;
   for (const TopTwo& top : tops) {
-    if (ComesFirst(top.first, maxima.highest)) maxima.highest = top.first;
-    if (ComesFirst(top.second, second)) second = top.second;
+    if (comesFirst(top.first, maxima.highest)) maxima.highest = top.first;
+    if (comesFirst(top.second, second)) second = top.second;
   }
-  if (has_second) maxima.second = second;
+  if (hasSecond) maxima.second = second;
   return maxima;
 }
 
 // Counts the exceedances and keeps the largest of them.
 class Judging {
  public:
-  Judging(const Case& the_case, const Averages& averages, Judgement& result)
-      : case_(the_case), averages_(averages), result_(result), exceeds_(averages.receptors()) {}
+  Judging(const Case& theCase, const Averages& averages, Judgement& result)
+      : case_(theCase), averages_(averages), result_(result), exceeds_(averages.receptors()) {}
 
-  void Judge(const Place& place) {
+  void judge(const Place& place) {
     ++result_.judged;
-    if (!Exceeds(place.value, case_.standard)) return;
+    if (!exceeds(place.value, case_.standard)) return;
     ++result_.exceedances;
-    const double facility = averages_.Own(1, place.block, place.receptor);
-    if (Reaches(facility, case_.sil)) ++result_.significant;
+    const double facility = averages_.own(1, place.block, place.receptor);
+    if (reaches(facility, case_.sil)) ++result_.significant;
     if (!exceeds_[place.receptor]) ++result_.receptors;
     exceeds_[place.receptor] = true;
-    Keep(place);
+    keep(place);
   }
 
  private:
   // A heap whose front is the one to drop when there are too many.
-  void Keep(const Place& place) {
+  void keep(const Place& place) {
     std::vector<Place>& heap = result_.largest;
     heap.push_back(place);
-    std::push_heap(heap.begin(), heap.end(), ComesFirst);
+    std::push_heap(heap.begin(), heap.end(), comesFirst);
     if (heap.size() <= kMostExceedancesListed) return;
-    std::pop_heap(heap.begin(), heap.end(), ComesFirst);
+    std::pop_heap(heap.begin(), heap.end(), comesFirst);
     heap.pop_back();
   }
 
@@ -90,10 +89,10 @@ class Judging {
   std::vector<bool> exceeds_;
 };
 
-void CheckFit(const Averages& averages, const Place& place, double own, Misfit& misfit) {
+void checkFit(const Averages& averages, const Place& place, double own, Misfit& misfit) {
   double parts = 0;
   for (std::size_t group = 1; group < averages.groups(); ++group) {
-    parts += averages.Own(group, place.block, place.receptor);
+    parts += averages.own(group, place.block, place.receptor);
   }
   const double beyond = parts - own;
   if (beyond <= kMisfitShare * own + kMisfitFloor) return;
@@ -104,37 +103,37 @@ void CheckFit(const Averages& averages, const Place& place, double own, Misfit& 
 
 }  // namespace
 
-Averages::Averages(const Case& the_case, const Blocks& blocks, const std::vector<GroupSums>& groups,
+Averages::Averages(const Case& theCase, const Blocks& blocks, const std::vector<GroupSums>& groups,
                    std::size_t receptors)
     : groups_(groups),
       blocks_(static_cast<std::size_t>(blocks.count)),
       receptors_(receptors),
-      factor_(the_case.scale / static_cast<double>(blocks.hours)),
-      offset_(the_case.offset),
-      background_(the_case.background) {}
+      factor_(theCase.scale / static_cast<double>(blocks.hours)),
+      offset_(theCase.offset),
+      background_(theCase.background) {}
 
-bool Exceeds(double total, double standard) { return total - standard > kRounding * standard; }
+bool exceeds(double total, double standard) { return total - standard > kRounding * standard; }
 
-bool Reaches(double contribution, double sil) { return contribution - sil >= -kRounding * sil; }
+bool reaches(double contribution, double sil) { return contribution - sil >= -kRounding * sil; }
 
-Judgement Judge(const Case& the_case, const Averages& averages) {
+Judgement judge(const Case& theCase, const Averages& averages) {
   Judgement result;
   for (std::size_t group = 0; group < averages.groups(); ++group) {
-    const std::vector<TopTwo> tops = TopTwoOfReceptors(averages, group);
-    result.maxima.push_back(MaximaOf(tops, averages.blocks() > 1));
-    if (group > 0 || !the_case.exclude_rank1) continue;
-    for (const TopTwo& top : tops) result.left_out.push_back(top.first);
+    const std::vector<TopTwo> tops = topTwoOfReceptors(averages, group);
+    result.maxima.push_back(maximaOf(tops, averages.blocks() > 1));
+    if (group > 0 || !theCase.excludeRank1) continue;
+    for (const TopTwo& top : tops) result.leftOut.push_back(top.first);
   }
-  Judging judging(the_case, averages, result);
+  Judging judging(theCase, averages, result);
   for (std::size_t block = 0; block < averages.blocks(); ++block) {
     for (std::size_t receptor = 0; receptor < averages.receptors(); ++receptor) {
-      const Place place{block, receptor, averages.Total(0, block, receptor)};
-      CheckFit(averages, place, averages.Own(0, block, receptor), result.misfit);
-      if (the_case.exclude_rank1 && result.left_out[receptor].block == block) continue;
-      judging.Judge(place);
+      const Place place{block, receptor, averages.total(0, block, receptor)};
+      checkFit(averages, place, averages.own(0, block, receptor), result.misfit);
+      if (theCase.excludeRank1 && result.leftOut[receptor].block == block) continue;
+      judging.judge(place);
     }
   }
-  std::sort_heap(result.largest.begin(), result.largest.end(), ComesFirst);
+  std::sort_heap(result.largest.begin(), result.largest.end(), comesFirst);
   return result;
 }
 

@@ -15,32 +15,32 @@ namespace korventally::engine {
 
 inline constexpr std::size_t kMostExceedancesListed = 50;
 
-// The averages of a run, computed from the sums when asked for.
+/// The averages of a run, computed from the sums when asked for.
 class Averages {
  public:
-  // All three must outlive this.
-  Averages(const Case& the_case, const Blocks& blocks, const std::vector<GroupSums>& groups,
+  /// All three must outlive this.
+  Averages(const Case& theCase, const Blocks& blocks, const std::vector<GroupSums>& groups,
            std::size_t receptors);
 
   std::size_t groups() const { return groups_.size(); }
   std::size_t blocks() const { return blocks_; }
   std::size_t receptors() const { return receptors_; }
 
-  // The group's own average, without background.
-  double Own(std::size_t group, std::size_t block, std::size_t receptor) const {
+  /// The group's own average, without background.
+  double own(std::size_t group, std::size_t block, std::size_t receptor) const {
     return groups_[group].sums[block * receptors_ + receptor] * factor_ + offset_;
   }
 
-  // The average with the background, which belongs to the first group only.
-  double Total(std::size_t group, std::size_t block, std::size_t receptor) const {
-    return Own(group, block, receptor) + (group == 0 ? background_ : 0);
+  /// The average with the background, which belongs to the first group only.
+  double total(std::size_t group, std::size_t block, std::size_t receptor) const {
+    return own(group, block, receptor) + (group == 0 ? background_ : 0);
   }
 
  private:
   const std::vector<GroupSums>& groups_;
   std::size_t blocks_;
   std::size_t receptors_;
-  double factor_;  // from a sum in g/m**3 to an average in ug/m**3
+  double factor_;  ///< from a sum in g/m**3 to an average in ug/m**3
   double offset_;
   double background_;
 };
@@ -51,36 +51,36 @@ struct Place {
   double value = 0;
 };
 
-// Over all receptors, the largest of their highest values and of their second-highest ones. Of
-// equal values the earliest block, then the first receptor counts.
+/// Over all receptors, the largest of their highest values and of their second-highest ones. Of
+/// equal values the earliest block, then the first receptor counts.
 struct Maxima {
   Place highest;
-  std::optional<Place> second;  // nothing when there is only one block
+  std::optional<Place> second;  ///< nothing when there is only one block
 };
 
-// FACILITY and the OTHER groups together, beyond the value of the first group.
+/// FACILITY and the OTHER groups together, beyond the value of the first group.
 struct Misfit {
-  std::uint64_t count = 0;  // receptors and blocks with more than rounding explains
-  Place worst;              // value: how far beyond
+  std::uint64_t count = 0;  ///< receptors and blocks with more than rounding explains
+  Place worst;              ///< value: how far beyond
 };
 
 struct Judgement {
-  std::vector<Maxima> maxima;     // per group; the first with background
-  std::vector<Place> left_out;    // rank 1 excluded: every receptor's highest block; else empty
-  std::uint64_t judged = 0;       // averages of group 1 held against the standard
-  std::uint64_t exceedances = 0;  // of those, above the standard
-  std::uint64_t significant = 0;  // of those, with FACILITY at or above the SIL
-  std::uint64_t receptors = 0;    // with at least one exceedance
-  std::vector<Place> largest;     // the largest exceedances, the largest first
+  std::vector<Maxima> maxima;     ///< per group; the first with background
+  std::vector<Place> leftOut;     ///< rank 1 excluded: every receptor's highest block; else empty
+  std::uint64_t judged = 0;       ///< averages of group 1 held against the standard
+  std::uint64_t exceedances = 0;  ///< of those, above the standard
+  std::uint64_t significant = 0;  ///< of those, with FACILITY at or above the SIL
+  std::uint64_t receptors = 0;    ///< with at least one exceedance
+  std::vector<Place> largest;     ///< the largest exceedances, the largest first
   Misfit misfit;
 };
 
-// Above the standard, or at or above the SIL, by more or less than the rounding of the arithmetic
-// (one part in 10**9): 91.0 given hour by hour is no exceedance of 91.0.
-bool Exceeds(double total, double standard);
-bool Reaches(double contribution, double sil);
+/// Above the standard, or at or above the SIL, by more or less than the rounding of the arithmetic
+/// (one part in 10**9): 91.0 given hour by hour is no exceedance of 91.0.
+bool exceeds(double total, double standard);
+bool reaches(double contribution, double sil);
 
-// Memory: a few numbers per receptor and group.
-Judgement Judge(const Case& the_case, const Averages& averages);
+/// Memory: a few numbers per receptor and group.
+Judgement judge(const Case& theCase, const Averages& averages);
 
 }  // namespace korventally::engine

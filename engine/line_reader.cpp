@@ -8,15 +8,15 @@
 
 namespace korventally::engine {
 
-LineReader::LineReader(InputFile& file, std::size_t longest_line)
-    : file_(file), longest_line_(longest_line), buffer_(kBlock + kPadding) {}
+LineReader::LineReader(InputFile& file, std::size_t longestLine)
+    : file_(file), longestLine_(longestLine), buffer_(kBlock + kPadding) {}
 
-bool LineReader::Next(std::string_view& line) {
+bool LineReader::next(std::string_view& line) {
   std::size_t searched = begin_;
   const void* found = nullptr;
   while ((found = std::memchr(&buffer_[searched], '\n', end_ - searched)) == nullptr) {
     const std::size_t unsearched = end_ - begin_;
-    if (!ReadMore()) break;
+    if (!readMore()) break;
     searched = begin_ + unsearched;
   }
   if (found == nullptr && begin_ == end_) return false;
@@ -26,27 +26,27 @@ bool LineReader::Next(std::string_view& line) {
   begin_ += static_cast<std::size_t>(stop - start) + (found != nullptr ? 1 : 0);
   if (stop > start && found != nullptr && stop[-1] == '\r') --stop;
   line = std::string_view(start, static_cast<std::size_t>(stop - start));
-  RequireLength(line.size());
-  ++line_number_;
+  requireLength(line.size());
+  ++lineNumber_;
   return true;
 }
 
 // False at the end of the file.
-bool LineReader::ReadMore() {
-  MakeRoom();
-  const std::size_t count = file_.Read(&buffer_[end_], buffer_.size() - kPadding - end_);
+bool LineReader::readMore() {
+  makeRoom();
+  const std::size_t count = file_.read(&buffer_[end_], buffer_.size() - kPadding - end_);
   end_ += count;
   return count > 0;
 }
 
-void LineReader::RequireLength(std::size_t length) const {
-  if (length <= longest_line_) return;
-  throw Fault(file_.Named(line_number_ + 1) + " is longer than " + Grouped(longest_line_) +
+void LineReader::requireLength(std::size_t length) const {
+  if (length <= longestLine_) return;
+  throw Fault(file_.named(lineNumber_ + 1) + " is longer than " + grouped(longestLine_) +
               " bytes; is this the right file?");
 }
 
-void LineReader::MakeRoom() {
-  RequireLength(end_ - begin_);
+void LineReader::makeRoom() {
+  requireLength(end_ - begin_);
   std::memmove(buffer_.data(), &buffer_[begin_], end_ - begin_);
   end_ -= begin_;
   begin_ = 0;

@@ -13,35 +13,35 @@ namespace korventally::engine {
 
 class LineReader {
  public:
-  // So many bytes behind a line may be read (not used), whatever stands in them.
+  /// So many bytes behind a line may be read (not used), whatever stands in them.
   static constexpr std::size_t kPadding = 64;
   static constexpr std::size_t kBlock = 256 * std::size_t{1024};
 
-  // A line of more than `longest_line` bytes is a Fault: a file that is not text at all must not
-  // fill the memory. `file` must outlive the reader.
-  LineReader(InputFile& file, std::size_t longest_line);
+  /// A line of more than `longestLine` bytes is a Fault: a file that is not text at all must not
+  /// fill the memory. `file` must outlive the reader.
+  LineReader(InputFile& file, std::size_t longestLine);
 
-  // The next line without its CR LF or LF, valid until the next call; false at the end. A last
-  // line without a line end is delivered too, and complete() is then false.
-  bool Next(std::string_view& line);
+  /// The next line without its CR LF or LF, valid until the next call; false at the end. A last
+  /// line without a line end is delivered too, and complete() is then false.
+  bool next(std::string_view& line);
 
-  // The number of lines delivered so far, which is the number of the line just delivered.
-  std::uint64_t line_number() const { return line_number_; }
+  /// The number of lines delivered so far, which is the number of the line just delivered.
+  std::uint64_t lineNumber() const { return lineNumber_; }
 
-  // False once a line was delivered that the file ended in: the file may have been cut short.
+  /// False once a line was delivered that the file ended in: the file may have been cut short.
   bool complete() const { return complete_; }
 
  private:
-  bool ReadMore();
-  void RequireLength(std::size_t length) const;
-  void MakeRoom();
+  bool readMore();
+  void requireLength(std::size_t length) const;
+  void makeRoom();
 
   InputFile& file_;
-  const std::size_t longest_line_;
+  const std::size_t longestLine_;
   std::vector<char> buffer_;
-  std::size_t begin_ = 0;  // of what has not been delivered
-  std::size_t end_ = 0;    // of what has been read
-  std::uint64_t line_number_ = 0;
+  std::size_t begin_ = 0;  ///< of what has not been delivered
+  std::size_t end_ = 0;    ///< of what has been read
+  std::uint64_t lineNumber_ = 0;
   bool complete_ = true;
 };
 

@@ -5,7 +5,6 @@
 #include "engine/fault.h"
 
 namespace korventally::engine {
-
 namespace {
 
 constexpr std::string_view kCompleted = "RUN COMPLETED\r\n";
@@ -14,31 +13,31 @@ constexpr std::string_view kCrashNotice =
 
 }  // namespace
 
-ListFile::ListFile(const NativePath& path) : file_(path) { ArmCrashNotice(file_, kCrashNotice); }
+ListFile::ListFile(const NativePath& path) : file_(path) { armCrashNotice(file_, kCrashNotice); }
 
-ListFile::~ListFile() { DisarmCrashNotice(); }
+ListFile::~ListFile() { disarmCrashNotice(); }
 
-void ListFile::Line(std::string_view text) {
+void ListFile::line(std::string_view text) {
   std::string line(text);
   line.erase(line.find_last_not_of(' ') + 1);
-  file_.Append(line + "\r\n");
+  file_.append(line + "\r\n");
   body_ = file_.size();
 }
 
-void ListFile::Complete() {
-  file_.Flush();
-  DisarmCrashNotice();
-  Finish(body_, kCompleted);
+void ListFile::complete() {
+  file_.flush();
+  disarmCrashNotice();
+  finish(body_, kCompleted);
 }
 
-bool ListFile::Fail(const std::string& sentence) noexcept {
+bool ListFile::fail(const std::string& sentence) noexcept {
   try {
-    DisarmCrashNotice();
+    disarmCrashNotice();
     const std::string words = "\r\nERROR: " + sentence + "\r\nRUN FAILED\r\n";
     try {
-      Finish(body_, words);
+      finish(body_, words);
     } catch (const Fault&) {
-      Finish(body_ - std::min<std::uint64_t>(body_, words.size()), words);
+      finish(body_ - std::min<std::uint64_t>(body_, words.size()), words);
     }
     return true;
   } catch (...) {
@@ -46,9 +45,9 @@ bool ListFile::Fail(const std::string& sentence) noexcept {
   }
 }
 
-void ListFile::Finish(std::uint64_t place, std::string_view text) {
-  file_.ReplaceFrom(place, text);
-  file_.Flush();
+void ListFile::finish(std::uint64_t place, std::string_view text) {
+  file_.replaceFrom(place, text);
+  file_.flush();
 }
 
 }  // namespace korventally::engine

@@ -17,21 +17,21 @@ class ListFile {
   explicit ListFile(const NativePath& path);
   ~ListFile();
 
-  // Adds one line; it is readable by others at once. The text holds no line end.
-  void Line(std::string_view text = {});
+  /// Adds one line; it is readable by others at once. The text holds no line end.
+  void line(std::string_view text = {});
 
-  // The last words of a run that went well. Throws Fault when they cannot be made safe.
-  void Complete();
+  /// The last words of a run that went well. Throws Fault when they cannot be made safe.
+  void complete();
 
-  // The last words of a run that did not: the sentence, then the verdict. When the disk takes no
-  // more, they replace the end of what is there. False when even that failed.
-  bool Fail(const std::string& sentence) noexcept;
+  /// The last words of a run that did not: the sentence, then the verdict. When the disk takes no
+  /// more, they replace the end of what is there. False when even that failed.
+  bool fail(const std::string& sentence) noexcept;
 
  private:
-  void Finish(std::uint64_t place, std::string_view text);
+  void finish(std::uint64_t place, std::string_view text);
 
   OutputFile file_;
-  std::uint64_t body_ = 0;  // bytes known to hold nothing but whole lines
+  std::uint64_t body_ = 0;  ///< bytes known to hold nothing but whole lines
 };
 
 }  // namespace korventally::engine

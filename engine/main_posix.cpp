@@ -1,5 +1,5 @@
 #include "engine/command_line.h"
 
 int main(int count, char** arguments) {
-  return korventally::engine::Main({arguments, arguments + count});
+  return korventally::engine::runCommandLine({arguments, arguments + count});
 }

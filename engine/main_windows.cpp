@@ -2,5 +2,5 @@
 
 // The wide entry: the control file's path arrives whole, whatever the code page can express.
 int wmain(int count, wchar_t** arguments) {
-  return korventally::engine::Main({arguments, arguments + count});
+  return korventally::engine::runCommandLine({arguments, arguments + count});
 }

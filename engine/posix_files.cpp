@@ -13,18 +13,17 @@
 #include "engine/system_files.h"
 
 namespace korventally::engine {
-
 namespace {
 
-[[noreturn]] void Fail(const NativePath& path, const std::string& what, int error) {
+[[noreturn]] void fail(const NativePath& path, const std::string& what, int error) {
   throw Fault("The file " + path.native() + " cannot be " + what + ": " +
               std::generic_category().message(error) + " (error " + std::to_string(error) + ").");
 }
 
-int Descriptor(std::intptr_t handle) { return static_cast<int>(handle); }
+int descriptor(std::intptr_t handle) { return static_cast<int>(handle); }
 
 // Writes everything or returns the error number; a write may take less than it was given.
-int WriteAll(int descriptor, std::string_view text) {
+int writeAll(int descriptor, std::string_view text) {
   while (!text.empty()) {
     const ssize_t written = ::write(descriptor, text.data(), text.size());
     if (written < 0 && errno == EINTR) continue;
@@ -35,27 +34,27 @@ int WriteAll(int descriptor, std::string_view text) {
   return 0;
 }
 
-std::atomic<int> crash_descriptor{-1};
-std::string_view crash_notice;
+std::atomic<int> crashDescriptor{-1};
+std::string_view crashNotice;
 constexpr int kSignals[] = {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT, SIGINT, SIGTERM, SIGHUP};
 using Handler = void (*)(int);
-Handler earlier_handlers[std::size(kSignals)];
+Handler earlierHandlers[std::size(kSignals)];
 
 // Only calls that are allowed inside a signal handler.
-extern "C" void OnSignal(int number) {
-  const int descriptor = crash_descriptor.exchange(-1);
-  if (descriptor >= 0) static_cast<void>(WriteAll(descriptor, crash_notice));
+extern "C" void onSignal(int number) {
+  const int descriptor = crashDescriptor.exchange(-1);
+  if (descriptor >= 0) static_cast<void>(writeAll(descriptor, crashNotice));
   ::signal(number, SIG_DFL);
   ::raise(number);
 }
 
 }  // namespace
 
-NativePath PathFromText(std::string_view text) { return NativePath(std::string(text)); }
+NativePath pathFromText(std::string_view text) { return NativePath(std::string(text)); }
 
-std::string TextFromPath(const NativePath& path) { return path.native(); }
+std::string textFromPath(const NativePath& path) { return path.native(); }
 
-bool SameFile(const NativePath& one, const NativePath& other) {
+bool sameFile(const NativePath& one, const NativePath& other) {
   struct stat first, second;
   if (::stat(one.c_str(), &first) != 0 || ::stat(other.c_str(), &second) != 0) return false;
   return first.st_dev == second.st_dev && first.st_ino == second.st_ino;
@@ -63,7 +62,7 @@ bool SameFile(const NativePath& one, const NativePath& other) {
 
 InputFile::InputFile(const NativePath& path) : path_(path) {
   const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-  if (descriptor < 0) Fail(path_, "opened", errno);
+  if (descriptor < 0) fail(path_, "opened", errno);
   struct stat state;
   const bool known = ::fstat(descriptor, &state) == 0;
   if (!known || !S_ISREG(state.st_mode)) {
@@ -74,57 +73,57 @@ InputFile::InputFile(const NativePath& path) : path_(path) {
   size_ = static_cast<std::uint64_t>(state.st_size);
 }
 
-InputFile::~InputFile() { ::close(Descriptor(handle_)); }
+InputFile::~InputFile() { ::close(descriptor(handle_)); }
 
-std::size_t InputFile::Read(char* to, std::size_t size) {
+std::size_t InputFile::read(char* to, std::size_t size) {
   for (;;) {
-    const ssize_t count = ::read(Descriptor(handle_), to, size);
+    const ssize_t count = ::read(descriptor(handle_), to, size);
     if (count >= 0) return static_cast<std::size_t>(count);
-    if (errno != EINTR) Fail(path_, "read", errno);
+    if (errno != EINTR) fail(path_, "read", errno);
   }
 }
 
 OutputFile::OutputFile(const NativePath& path) : path_(path) {
   handle_ = ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
-  if (handle_ < 0) Fail(path_, "created", errno);
+  if (handle_ < 0) fail(path_, "created", errno);
 }
 
-// What the system held back until now was asked for by Flush().
-OutputFile::~OutputFile() { ::close(Descriptor(handle_)); }
+// What the system held back until now was asked for by flush().
+OutputFile::~OutputFile() { ::close(descriptor(handle_)); }
 
-void OutputFile::Append(std::string_view text) {
-  const int error = WriteAll(Descriptor(handle_), text);
+void OutputFile::append(std::string_view text) {
+  const int error = writeAll(descriptor(handle_), text);
   // The part of a failed write that did arrive belongs to the file all the same.
-  const off_t end = ::lseek(Descriptor(handle_), 0, SEEK_END);
+  const off_t end = ::lseek(descriptor(handle_), 0, SEEK_END);
   if (end >= 0) size_ = static_cast<std::uint64_t>(end);
-  if (error != 0) Fail(path_, "written", error);
+  if (error != 0) fail(path_, "written", error);
 }
 
-void OutputFile::ReplaceFrom(std::uint64_t place, std::string_view text) {
+void OutputFile::replaceFrom(std::uint64_t place, std::string_view text) {
   const auto start = static_cast<off_t>(place);
-  if (::lseek(Descriptor(handle_), start, SEEK_SET) < 0) Fail(path_, "written", errno);
-  const int error = WriteAll(Descriptor(handle_), text);
-  if (error != 0) Fail(path_, "written", error);
+  if (::lseek(descriptor(handle_), start, SEEK_SET) < 0) fail(path_, "written", errno);
+  const int error = writeAll(descriptor(handle_), text);
+  if (error != 0) fail(path_, "written", error);
   size_ = place + text.size();
-  if (::ftruncate(Descriptor(handle_), static_cast<off_t>(size_)) != 0) Fail(path_, "cut", errno);
+  if (::ftruncate(descriptor(handle_), static_cast<off_t>(size_)) != 0) fail(path_, "cut", errno);
 }
 
-void OutputFile::Flush() {
-  if (::fsync(Descriptor(handle_)) != 0 && errno != EINVAL) Fail(path_, "written", errno);
+void OutputFile::flush() {
+  if (::fsync(descriptor(handle_)) != 0 && errno != EINVAL) fail(path_, "written", errno);
 }
 
-void ArmCrashNotice(const OutputFile& file, std::string_view notice) {
-  crash_notice = notice;
-  crash_descriptor = Descriptor(file.handle_);
+void armCrashNotice(const OutputFile& file, std::string_view notice) {
+  crashNotice = notice;
+  crashDescriptor = descriptor(file.handle_);
   for (std::size_t i = 0; i < std::size(kSignals); ++i) {
-    earlier_handlers[i] = ::signal(kSignals[i], OnSignal);
+    earlierHandlers[i] = ::signal(kSignals[i], onSignal);
   }
 }
 
-void DisarmCrashNotice() {
-  if (crash_descriptor.exchange(-1) < 0) return;
+void disarmCrashNotice() {
+  if (crashDescriptor.exchange(-1) < 0) return;
   for (std::size_t i = 0; i < std::size(kSignals); ++i) {
-    ::signal(kSignals[i], earlier_handlers[i]);
+    ::signal(kSignals[i], earlierHandlers[i]);
   }
 }
 

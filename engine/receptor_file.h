@@ -16,17 +16,17 @@ namespace korventally::engine {
 struct Receptor {
   double x = 0;
   double y = 0;
-  std::string id;  // 1 to 12 characters without blanks or commas
+  std::string id;  ///< 1 to 12 characters without blanks or commas
 };
 
 struct Receptors {
-  std::vector<Receptor> list;  // at least one; in the order of the values of an hour
+  std::vector<Receptor> list;  ///< at least one; in the order of the values of an hour
   std::uint64_t bytes = 0;
   std::uint64_t lines = 0;
 };
 
-// Throws Fault with file and line for anything else: a field too many, a repeated ID in format 1,
-// an ID at two places in format 2.
-Receptors ReadReceptors(InputFile& file, int format);
+/// Throws Fault with file and line for anything else: a field too many, a repeated ID in format 1,
+/// an ID at two places in format 2.
+Receptors readReceptors(InputFile& file, int format);
 
 }  // namespace korventally::engine

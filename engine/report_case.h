@@ -6,7 +6,7 @@
 
 namespace korventally::engine {
 
-void ReportTitle(ListFile& list);
-void ReportCase(const Case& the_case, ListFile& list);
+void reportTitle(ListFile& list);
+void reportCase(const Case& theCase, ListFile& list);
 
 }  // namespace korventally::engine

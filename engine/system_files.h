@@ -1,5 +1,5 @@
 // The engine's only door to the operating system's files. posix_files.cpp and, for Windows,
-// platform/win32/engine_files.cpp stand behind it; the build chooses one of them.
+// windows_files.cpp stand behind it; the build chooses one of them.
 //
 // Every failure is a Fault whose sentence names the file and gives the system's reason and number.
 #pragma once
@@ -12,22 +12,22 @@
 
 namespace korventally::engine {
 
-// A path in the system's own characters. Only a container here: none of its narrow conversions
-// are used, because on Windows they follow the C runtime's locale instead of the code page.
+/// A path in the system's own characters. Only a container here: none of its narrow conversions
+/// are used, because on Windows they follow the C runtime's locale instead of the code page.
 using NativePath = std::filesystem::path;
 
-// The path that a control file means: on Windows its bytes are in the ANSI code page; elsewhere
-// bytes are bytes. Throws Fault when the bytes are no text in that code page.
-NativePath PathFromText(std::string_view text);
+/// The path that a control file means: on Windows its bytes are in the ANSI code page; elsewhere
+/// bytes are bytes. Throws Fault when the bytes are no text in that code page.
+NativePath pathFromText(std::string_view text);
 
-// The path as bytes for a message; characters that the code page lacks come out as "?".
-std::string TextFromPath(const NativePath& path);
+/// The path as bytes for a message; characters that the code page lacks come out as "?".
+std::string textFromPath(const NativePath& path);
 
-// True when both paths lead to one existing file, however they are spelled.
-bool SameFile(const NativePath& one, const NativePath& other);
+/// True when both paths lead to one existing file, however they are spelled.
+bool sameFile(const NativePath& one, const NativePath& other);
 
-// A file open for reading from front to back. Others may read, write and delete it meanwhile.
-// Only ordinary files: folders, devices and pipes are refused.
+/// A file open for reading from front to back. Others may read, write and delete it meanwhile.
+/// Only ordinary files: folders, devices and pipes are refused.
 class InputFile {
  public:
   explicit InputFile(const NativePath& path);
@@ -37,15 +37,15 @@ class InputFile {
 
   std::uint64_t size() const { return size_; }
 
-  std::string name() const { return TextFromPath(path_); }
+  std::string name() const { return textFromPath(path_); }
 
-  // "The file C:\\Study\\all.con, line 17": the start of a sentence about that line.
-  std::string Named(std::uint64_t line) const {
-    return "The file " + TextFromPath(path_) + ", line " + std::to_string(line);
+  /// "The file C:\\Study\\all.con, line 17": the start of a sentence about that line.
+  std::string named(std::uint64_t line) const {
+    return "The file " + textFromPath(path_) + ", line " + std::to_string(line);
   }
 
-  // Reads up to `size` bytes; 0 only at the end of the file.
-  std::size_t Read(char* to, std::size_t size);
+  /// Reads up to `size` bytes; 0 only at the end of the file.
+  std::size_t read(char* to, std::size_t size);
 
  private:
   NativePath path_;
@@ -53,8 +53,8 @@ class InputFile {
   std::uint64_t size_ = 0;
 };
 
-// A file created, or emptied, for writing. Others may read and delete it while it grows. Nothing
-// is held back in the program: what Append() returned from can be read by everyone.
+/// A file created, or emptied, for writing. Others may read and delete it while it grows. Nothing
+/// is held back in the program: what append() returned from can be read by everyone.
 class OutputFile {
  public:
   explicit OutputFile(const NativePath& path);
@@ -62,29 +62,29 @@ class OutputFile {
   OutputFile& operator=(const OutputFile&) = delete;
   ~OutputFile();
 
-  // Adds the text at the end, all of it or Fault.
-  void Append(std::string_view text);
+  /// Adds the text at the end, all of it or Fault.
+  void append(std::string_view text);
 
-  // Puts the text at this place, which may not lie behind the end, and ends the file after it.
-  // Works on a full disk as long as the file does not grow.
-  void ReplaceFrom(std::uint64_t place, std::string_view text);
+  /// Puts the text at this place, which may not lie behind the end, and ends the file after it.
+  /// Works on a full disk as long as the file does not grow.
+  void replaceFrom(std::uint64_t place, std::string_view text);
 
-  // Returns once the system has put everything on the disk.
-  void Flush();
+  /// Returns once the system has put everything on the disk.
+  void flush();
 
   std::uint64_t size() const { return size_; }
 
  private:
-  friend void ArmCrashNotice(const OutputFile& file, std::string_view notice);
+  friend void armCrashNotice(const OutputFile& file, std::string_view notice);
 
   NativePath path_;
   std::intptr_t handle_ = -1;
   std::uint64_t size_ = 0;
 };
 
-// From now until DisarmCrashNotice(), should the process crash or be told to stop, `notice` is
-// added to `file` before it ends. `notice` must outlive that time. One file at a time.
-void ArmCrashNotice(const OutputFile& file, std::string_view notice);
-void DisarmCrashNotice();
+/// From now until disarmCrashNotice(), should the process crash or be told to stop, `notice` is
+/// added to `file` before it ends. `notice` must outlive that time. One file at a time.
+void armCrashNotice(const OutputFile& file, std::string_view notice);
+void disarmCrashNotice();
 
 }  // namespace korventally::engine

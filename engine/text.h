@@ -9,21 +9,21 @@
 
 namespace korventally::engine {
 
-// A whole number made of 1 to 9 digits and nothing else: no sign, no blank. Otherwise nothing.
-std::optional<std::int32_t> ParseWhole(std::string_view text);
+/// A whole number made of 1 to 9 digits and nothing else: no sign, no blank. Otherwise nothing.
+std::optional<std::int32_t> parseWhole(std::string_view text);
 
-// A finite decimal number that fills the whole text ("91.0", ".5", "-3e2"). No leading plus sign,
-// no blank, no "inf", no "nan", nothing beyond the range of a double. Otherwise nothing.
-std::optional<double> ParseDecimal(std::string_view text);
+/// A finite decimal number that fills the whole text ("91.0", ".5", "-3e2"). No leading plus sign,
+/// no blank, no "inf", no "nan", nothing beyond the range of a double. Otherwise nothing.
+std::optional<double> parseDecimal(std::string_view text);
 
-// The text in double quotes, for a message. Bytes that would tear the line apart become "?",
-// and a long text is cut, so that whatever a file holds stays inside one sentence.
-std::string Quoted(std::string_view text);
+/// The text in double quotes, for a message. Bytes that would tear the line apart become "?",
+/// and a long text is cut, so that whatever a file holds stays inside one sentence.
+std::string inQuotes(std::string_view text);
 
-// The number with thousands separated by commas: 1234567 gives "1,234,567".
-std::string Grouped(std::uint64_t number);
+/// The number with thousands separated by commas: 1234567 gives "1,234,567".
+std::string grouped(std::uint64_t number);
 
-// "1 hour", "2 hours": the number, and the noun with an "s" when it needs one.
-std::string Counted(std::uint64_t number, std::string_view noun);
+/// "1 hour", "2 hours": the number, and the noun with an "s" when it needs one.
+std::string counted(std::uint64_t number, std::string_view noun);
 
 }  // namespace korventally::engine

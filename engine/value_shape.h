@@ -8,13 +8,13 @@
 
 namespace korventally::engine {
 
-// The number of the shape of a field like "1.23456E-05" with 1 to 7 decimals behind this separator
-// (a blank or a comma), or 0 when it has no such shape.
-std::size_t ShapeOf(char separator, std::string_view field);
+/// The number of the shape of a field like "1.23456E-05" with 1 to 7 decimals behind this separator
+/// (a blank or a comma), or 0 when it has no such shape.
+std::size_t shapeOf(char separator, std::string_view field);
 
-// Adds the values at `at` to the sums from `sum` on, as long as they have this shape, each with one
-// separator in front; `at` and `sum` then stand behind the last value taken. The line must be
-// followed by '\r' or '\n' and by LineReader::kPadding readable bytes.
-void AddShaped(std::size_t shape, const char*& at, double*& sum, double* end);
+/// Adds the values at `at` to the sums from `sum` on, as long as they have this shape, each with
+/// one separator in front; `at` and `sum` then stand behind the last value taken. The line must be
+/// followed by '\r' or '\n' and by LineReader::kPadding readable bytes.
+void addShaped(std::size_t shape, const char*& at, double*& sum, double* end);
 
 }  // namespace korventally::engine

@@ -19,33 +19,33 @@ TEST(Calendar, CountsHoursAsEveryoneDoes) {
       {2100, 3, 1, 0, 1140984},
   };
   for (const auto& row : rows) {
-    EXPECT_EQ(HourFromDate(row.year, row.month, row.day, row.hour), row.expected) << row.year;
+    EXPECT_EQ(hourFromDate(row.year, row.month, row.day, row.hour), row.expected) << row.year;
   }
 }
 
 TEST(Calendar, KnowsWhichDatesThereAre) {
-  EXPECT_FALSE(HourFromDate(2009, 2, 29, 0));
-  EXPECT_FALSE(HourFromDate(2100, 2, 29, 0));
-  EXPECT_TRUE(HourFromDate(2000, 2, 29, 0));
-  EXPECT_FALSE(HourFromDate(2009, 4, 31, 0));
-  EXPECT_FALSE(HourFromDate(2009, 0, 1, 0));
-  EXPECT_FALSE(HourFromDate(2009, 1, 0, 0));
-  EXPECT_FALSE(HourFromDate(2009, 1, 1, 25));
-  EXPECT_FALSE(HourFromDate(10000, 1, 1, 0));
+  EXPECT_FALSE(hourFromDate(2009, 2, 29, 0));
+  EXPECT_FALSE(hourFromDate(2100, 2, 29, 0));
+  EXPECT_TRUE(hourFromDate(2000, 2, 29, 0));
+  EXPECT_FALSE(hourFromDate(2009, 4, 31, 0));
+  EXPECT_FALSE(hourFromDate(2009, 0, 1, 0));
+  EXPECT_FALSE(hourFromDate(2009, 1, 0, 0));
+  EXPECT_FALSE(hourFromDate(2009, 1, 1, 25));
+  EXPECT_FALSE(hourFromDate(10000, 1, 1, 0));
 }
 
 TEST(Calendar, WritesDatesWithHours0To23) {
-  EXPECT_EQ(DateText(341880), "2009-01-01 00");
-  EXPECT_EQ(DateText(341880 - 1), "2008-12-31 23");
-  EXPECT_EQ(DateText(*HourFromDate(7, 6, 5, 4)), "0007-06-05 04");
+  EXPECT_EQ(dateText(341880), "2009-01-01 00");
+  EXPECT_EQ(dateText(341880 - 1), "2008-12-31 23");
+  EXPECT_EQ(dateText(*hourFromDate(7, 6, 5, 4)), "0007-06-05 04");
 }
 
 TEST(Calendar, KnowsTheLengthOfTheYearFromAnyStart) {
-  EXPECT_EQ(HoursOfYearFrom(*HourFromDate(2009, 1, 1, 0)), 8760);
-  EXPECT_EQ(HoursOfYearFrom(*HourFromDate(2008, 1, 1, 0)), 8784);
-  EXPECT_EQ(HoursOfYearFrom(*HourFromDate(2007, 7, 1, 5)), 8784);
-  EXPECT_EQ(HoursOfYearFrom(*HourFromDate(2008, 2, 29, 0)), 8784);
-  EXPECT_EQ(HoursOfYearFrom(*HourFromDate(2008, 3, 1, 0)), 8760);
+  EXPECT_EQ(hoursOfYearFrom(*hourFromDate(2009, 1, 1, 0)), 8760);
+  EXPECT_EQ(hoursOfYearFrom(*hourFromDate(2008, 1, 1, 0)), 8784);
+  EXPECT_EQ(hoursOfYearFrom(*hourFromDate(2007, 7, 1, 5)), 8784);
+  EXPECT_EQ(hoursOfYearFrom(*hourFromDate(2008, 2, 29, 0)), 8784);
+  EXPECT_EQ(hoursOfYearFrom(*hourFromDate(2008, 3, 1, 0)), 8760);
 }
 
 struct Plan {
@@ -62,15 +62,15 @@ TEST(Blocks, CutTheRunIntoAveragingPeriods) {
   };
   for (const Plan& plan : plans) {
     SCOPED_TRACE(plan.what);
-    Case the_case;
-    the_case.start = *HourFromDate(2009, 1, 1, 0);
-    the_case.run_hours = plan.run;
-    the_case.averaging_hours = plan.averaging;
-    const Blocks blocks = PlanBlocks(the_case);
+    Case theCase;
+    theCase.start = *hourFromDate(2009, 1, 1, 0);
+    theCase.runHours = plan.run;
+    theCase.averagingHours = plan.averaging;
+    const Blocks blocks = planBlocks(theCase);
     EXPECT_EQ(blocks.hours, plan.hours);
     EXPECT_EQ(blocks.count, plan.count);
     EXPECT_EQ(blocks.unused, plan.unused);
-    EXPECT_EQ(blocks.end(), the_case.start + plan.run - plan.unused);
+    EXPECT_EQ(blocks.end(), theCase.start + plan.run - plan.unused);
   }
 }
 

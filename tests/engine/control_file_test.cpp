@@ -18,21 +18,21 @@ TEST(ControlFile, GivesTheCaseForTheFewestAndTheMostGroups) {
     study.line(3) = "2008,02,29,24";
     study.line(5 + 2 * groups + 2) = "12.5";
     study.line(5 + 2 * groups + 10) = "T";
-    study.WriteControl();
-    const Case the_case = ParseControl(ReadControlText(study.Path("korventally.inp")));
-    EXPECT_EQ(the_case.species, "SO2 and more");
-    EXPECT_EQ(the_case.start, HourFromDate(2008, 3, 1, 0));
-    EXPECT_EQ(the_case.run_hours, 6);
-    ASSERT_EQ(the_case.groups.size(), groups);
-    EXPECT_EQ(the_case.groups[1].name, "FACILITY");
-    EXPECT_EQ(the_case.groups[1].file, study.Text("group_2.con"));
-    EXPECT_EQ(the_case.groups.back().file_line, 4 + 2 * groups);
-    EXPECT_EQ(the_case.background, 12.5);
-    EXPECT_EQ(the_case.averaging_hours, 3);
-    EXPECT_EQ(the_case.standard, 8.0);
-    EXPECT_EQ(the_case.receptor_line, 11 + 2 * groups);
-    EXPECT_EQ(the_case.sil, 1.0);
-    EXPECT_TRUE(the_case.exclude_rank1);
+    study.writeControl();
+    const Case theCase = parseControl(readControlText(study.path("korventally.inp")));
+    EXPECT_EQ(theCase.species, "SO2 and more");
+    EXPECT_EQ(theCase.start, hourFromDate(2008, 3, 1, 0));
+    EXPECT_EQ(theCase.runHours, 6);
+    ASSERT_EQ(theCase.groups.size(), groups);
+    EXPECT_EQ(theCase.groups[1].name, "FACILITY");
+    EXPECT_EQ(theCase.groups[1].file, study.text("group_2.con"));
+    EXPECT_EQ(theCase.groups.back().fileLine, 4 + 2 * groups);
+    EXPECT_EQ(theCase.background, 12.5);
+    EXPECT_EQ(theCase.averagingHours, 3);
+    EXPECT_EQ(theCase.standard, 8.0);
+    EXPECT_EQ(theCase.receptorLine, 11 + 2 * groups);
+    EXPECT_EQ(theCase.sil, 1.0);
+    EXPECT_TRUE(theCase.excludeRank1);
   }
 }
 
@@ -99,7 +99,7 @@ TEST(ControlFile, RefusesEveryLineThatIsNotSoundAndNamesIt) {
     text.lines.at(bad.line - 1) = sound.prefix + bad.value;
     std::string sentence;
     try {
-      static_cast<void>(ParseControl(text));
+      static_cast<void>(parseControl(text));
     } catch (const std::exception& fault) {
       sentence = fault.what();
     }
@@ -116,7 +116,7 @@ struct BadFile {
 };
 
 TEST(ControlFile, RefusesAWrongShapeAndSaysSoInTheListFile) {
-  const BadFile bad_files[] = {
+  const BadFile badFiles[] = {
       {"a line too few", [](Study& s) { s.control.pop_back(); },
        "The control file has 21 lines; with 3 source groups (line 5) it must have 22."},
       {"a line too many", [](Study& s) { s.control.emplace_back("0"); }, "has 23 lines"},
@@ -124,31 +124,31 @@ TEST(ControlFile, RefusesAWrongShapeAndSaysSoInTheListFile) {
        "Line 2 of the control file is"},
       {"a group count that lies", [](Study& s) { s.line(5) = "4"; }, "it must have 24."},
   };
-  for (const BadFile& bad : bad_files) {
+  for (const BadFile& bad : badFiles) {
     SCOPED_TRACE(bad.name);
     Study study;
     bad.change(study);
-    const Result result = study.Run();
+    const Result result = study.run();
     EXPECT_EQ(result.outcome, Outcome::kFailed);
     EXPECT_NE(result.sentence.find(bad.says), std::string::npos) << result.sentence;
-    EXPECT_EQ(study.LastLine(), "RUN FAILED");
-    const std::vector<std::string> list = study.List();
+    EXPECT_EQ(study.lastLine(), "RUN FAILED");
+    const std::vector<std::string> list = study.list();
     EXPECT_EQ(list.at(list.size() - 2), "ERROR: " + result.sentence);
   }
 }
 
 TEST(ControlFile, RefusesAnotherPrefixAndACutLastLine) {
   Study study;
-  study.WriteControl();
-  std::string text = study.Read("korventally.inp");
-  study.Write("cut.inp", text.substr(0, text.size() - 2));
-  EXPECT_EQ(RunCase(study.Path("cut.inp")).sentence,
+  study.writeControl();
+  std::string text = study.read("korventally.inp");
+  study.write("cut.inp", text.substr(0, text.size() - 2));
+  EXPECT_EQ(runCase(study.path("cut.inp")).sentence,
             "Line 22 of the control file has no line end; the file may be cut short.");
   text.replace(text.find("\r\n") + 2, 1, "");
-  study.Write("shifted.inp", text);
-  EXPECT_EQ(RunCase(study.Path("shifted.inp")).sentence,
+  study.write("shifted.inp", text);
+  EXPECT_EQ(runCase(study.path("shifted.inp")).sentence,
             "Line 2 of the control file does not begin with 29 blanks and a colon.");
-  EXPECT_EQ(study.LastLine(), "RUN FAILED");
+  EXPECT_EQ(study.lastLine(), "RUN FAILED");
 }
 
 }  // namespace

@@ -44,12 +44,12 @@ TEST(ConcentrationFile, RefusesWhatIsWrongAndNamesTheLine) {
   for (const BadText& bad : kBadConcentrations) {
     SCOPED_TRACE(bad.text);
     Study study;
-    study.Write("group_2.con", bad.text);
-    const Result result = study.Run();
+    study.write("group_2.con", bad.text);
+    const Result result = study.run();
     EXPECT_EQ(result.outcome, Outcome::kFailed);
-    EXPECT_EQ(result.sentence, "The file " + study.Text("group_2.con") + ", line " +
+    EXPECT_EQ(result.sentence, "The file " + study.text("group_2.con") + ", line " +
                                    std::to_string(bad.line) + bad.says);
-    EXPECT_EQ(study.LastLine(), "RUN FAILED");
+    EXPECT_EQ(study.lastLine(), "RUN FAILED");
   }
 }
 
@@ -57,38 +57,38 @@ TEST(ConcentrationFile, MustHoldAllHoursOfTheAverages) {
   const std::string needs = ", but the run needs 2009-01-01 00 to 2009-01-01 05.";
   const std::vector<std::string> five(5, "1 1");
   Study study;
-  study.WriteHours("group_3.con", five);
-  EXPECT_EQ(study.Run().sentence, "The file " + study.Text("group_3.con") +
+  study.writeHours("group_3.con", five);
+  EXPECT_EQ(study.run().sentence, "The file " + study.text("group_3.con") +
                                       " holds the hours 2009-01-01 00 to 2009-01-01 04" + needs);
-  study.Write("group_3.con", "2009 1 1 1 1 1\n");
-  EXPECT_EQ(study.Run().sentence, "The file " + study.Text("group_3.con") +
+  study.write("group_3.con", "2009 1 1 1 1 1\n");
+  EXPECT_EQ(study.run().sentence, "The file " + study.text("group_3.con") +
                                       " holds the hours 2009-01-01 01 to 2009-01-01 01" + needs);
-  study.Write("group_3.con", "# nothing\n");
-  EXPECT_EQ(study.Run().sentence, "The file " + study.Text("group_3.con") + " holds no hour.");
+  study.write("group_3.con", "# nothing\n");
+  EXPECT_EQ(study.run().sentence, "The file " + study.text("group_3.con") + " holds no hour.");
   // Five hours are enough for the one 4-hour block that fits into a run of five.
-  study.WriteHours("group_3.con", five);
+  study.writeHours("group_3.con", five);
   study.line(4) = "5";
   study.line(14) = "4";
-  EXPECT_EQ(study.Run().sentence, "");
+  EXPECT_EQ(study.run().sentence, "");
 }
 
 TEST(ConcentrationFile, ReportsTheFirstFaultyFileWhicheverThreadIsFaster) {
   for (int round = 0; round < 5; ++round) {
     Study study(8);
     std::vector<std::string> hours(3000, "1 1");
-    study.WriteHours("group_3.con", hours);
-    study.Write("group_3.con", study.Read("group_3.con") + "x\n");
-    for (const char* name : {"group_4.con", "group_7.con"}) study.Write(name, "x\n");
-    EXPECT_EQ(study.Run().sentence.find("The file " + study.Text("group_3.con") + ", line 3002 "),
+    study.writeHours("group_3.con", hours);
+    study.write("group_3.con", study.read("group_3.con") + "x\n");
+    for (const char* name : {"group_4.con", "group_7.con"}) study.write(name, "x\n");
+    EXPECT_EQ(study.run().sentence.find("The file " + study.text("group_3.con") + ", line 3002 "),
               0u);
   }
 }
 
 TEST(ConcentrationFile, RefusesALineThatNeverEnds) {
   Study study;
-  study.Write("all.con", "2009 1 1 0 1 1\n" + std::string(3000000, ' '));
-  EXPECT_EQ(study.Run().sentence,
-            "The file " + study.Text("all.con") +
+  study.write("all.con", "2009 1 1 0 1 1\n" + std::string(3000000, ' '));
+  EXPECT_EQ(study.run().sentence,
+            "The file " + study.text("all.con") +
                 ", line 2 is longer than 4,224 bytes; is this the right file?");
 }
 
@@ -101,17 +101,17 @@ TEST(ConcentrationFile, ReadsLinesOfAnyLengthAcrossBlocks) {
     receptors += std::to_string(i) + " 0 R" + std::to_string(i) + "\n";
     row += " " + std::to_string(i % 7) + ".00000E-06";
   }
-  study.Write("receptors.dat", receptors);
+  study.write("receptors.dat", receptors);
   for (const char* name : {"all.con", "group_2.con"}) {
-    study.WriteHours(name, std::vector<std::string>(6, row));
+    study.writeHours(name, std::vector<std::string>(6, row));
   }
-  ASSERT_EQ(study.Run().sentence, "");
+  ASSERT_EQ(study.run().sentence, "");
   // i % 7 is 6 at a seventh of the receptors, but for the last, incomplete seven.
   study.line(3 + 10) = "5.5";
-  EXPECT_EQ(study.Run().sentence, "");
-  EXPECT_NE(study.Read("out.lst").find("Receptors that exceed:        5,714 of 40,000"),
+  EXPECT_EQ(study.run().sentence, "");
+  EXPECT_NE(study.read("out.lst").find("Receptors that exceed:        5,714 of 40,000"),
             std::string::npos)
-      << study.Read("out.lst");
+      << study.read("out.lst");
 }
 
 // A line end at every place around the end of a block, and lines of several blocks.
@@ -122,20 +122,20 @@ TEST(LineReader, FindsLineEndsWhereverTheBlocksEnd) {
       const std::vector<std::size_t> sizes = {first, 0, 1, 2 * LineReader::kBlock, first, 5};
       std::string text;
       for (const std::size_t size : sizes) text += std::string(size, 'x') + end;
-      study.Write("lines", text + "tail");
-      InputFile file(study.Path("lines"));
+      study.write("lines", text + "tail");
+      InputFile file(study.path("lines"));
       LineReader reader(file, 10 * LineReader::kBlock);
       std::string_view line;
       for (const std::size_t size : sizes) {
-        ASSERT_TRUE(reader.Next(line));
+        ASSERT_TRUE(reader.next(line));
         ASSERT_EQ(line.size(), size);
         ASSERT_TRUE(reader.complete());
       }
-      ASSERT_TRUE(reader.Next(line));
+      ASSERT_TRUE(reader.next(line));
       EXPECT_EQ(line, "tail");
       EXPECT_FALSE(reader.complete());
-      EXPECT_FALSE(reader.Next(line));
-      EXPECT_EQ(reader.line_number(), sizes.size() + 1);
+      EXPECT_FALSE(reader.next(line));
+      EXPECT_EQ(reader.lineNumber(), sizes.size() + 1);
     }
   }
 }
@@ -171,19 +171,19 @@ TEST(ReceptorFile, RefusesWhatIsWrongAndNamesTheLine) {
     SCOPED_TRACE(bad.text);
     Study study;
     study.line(16) = std::to_string(bad.format);
-    study.Write("receptors.dat", bad.text);
-    EXPECT_EQ(study.Run().sentence, "The file " + study.Text("receptors.dat") + bad.says);
-    EXPECT_EQ(study.LastLine(), "RUN FAILED");
+    study.write("receptors.dat", bad.text);
+    EXPECT_EQ(study.run().sentence, "The file " + study.text("receptors.dat") + bad.says);
+    EXPECT_EQ(study.lastLine(), "RUN FAILED");
   }
 }
 
 TEST(ReceptorFile, TakesReceptorsOfARankedListInOrderOfFirstAppearance) {
   const Study study;
-  study.Write("ranked.dat",
+  study.write("ranked.dat",
               "# rank value X Y ID\r\n1, 90.5, 3, 4, B\r\n2, 80, 1, 2, A\r\n"
               "3, 70, 3, 4, B\r\n4\t60\t5 6 C\r\n");
-  InputFile file(study.Path("ranked.dat"));
-  const Receptors receptors = ReadReceptors(file, 2);
+  InputFile file(study.path("ranked.dat"));
+  const Receptors receptors = readReceptors(file, 2);
   ASSERT_EQ(receptors.list.size(), 3u);
   EXPECT_EQ(receptors.list[0].id + receptors.list[1].id + receptors.list[2].id, "BAC");
   EXPECT_EQ(receptors.list[1].y, 2.0);
@@ -192,9 +192,9 @@ TEST(ReceptorFile, TakesReceptorsOfARankedListInOrderOfFirstAppearance) {
 
 TEST(ReceptorFile, TellsWhichFileHasTheOddNumberOfValues) {
   Study study;
-  study.Write("receptors.dat", "1 2 A\n3 4 B\n5 6 C\n");
-  EXPECT_EQ(study.Run().sentence,
-            "The file " + study.Text("all.con") +
+  study.write("receptors.dat", "1 2 A\n3 4 B\n5 6 C\n");
+  EXPECT_EQ(study.run().sentence,
+            "The file " + study.text("all.con") +
                 ", line 2 holds 2 values instead of 3, one for each receptor.");
 }
 

@@ -31,21 +31,21 @@ class Limit {
 // at all, it is never "RUN COMPLETED", and the program says so every time.
 TEST(FullDisk, NeverCompletesAndSaysSoWhereverTheSpaceEnds) {
   Study study;
-  ASSERT_EQ(study.Run().sentence, "");
-  const std::size_t whole = study.Read("out.lst").size();
-  const std::size_t control = study.Read("korventally.inp").size();
-  study.WriteControl();
-  const NativePath control_file = study.Path("korventally.inp");
+  ASSERT_EQ(study.run().sentence, "");
+  const std::size_t whole = study.read("out.lst").size();
+  const std::size_t control = study.read("korventally.inp").size();
+  study.writeControl();
+  const NativePath controlFile = study.path("korventally.inp");
   ASSERT_GT(whole, control);
   for (std::size_t bytes = 0; bytes < whole; bytes += bytes + 20 < whole ? 61 : 1) {
     SCOPED_TRACE(bytes);
     Result result;
     {
       const Limit limit(bytes);
-      result = RunCase(control_file);
+      result = runCase(controlFile);
     }
     EXPECT_NE(result.sentence.find("cannot be written: "), std::string::npos) << result.sentence;
-    const std::string list = study.Read("out.lst");
+    const std::string list = study.read("out.lst");
     EXPECT_EQ(list.find("RUN COMPLETED"), std::string::npos);
     const bool told = list.ends_with("\r\nRUN FAILED\r\n");
     EXPECT_EQ(told, result.outcome == Outcome::kFailed);

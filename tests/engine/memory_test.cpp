@@ -10,12 +10,12 @@
 #include "tests/engine/study.h"
 
 namespace {
-std::atomic<std::size_t> largest_allowed{~std::size_t{0}};
+std::atomic<std::size_t> largestAllowed{~std::size_t{0}};
 }
 
 // Not inlined: GCC would see malloc() meet delete and warn of a mismatch that is none.
 __attribute__((noinline)) void* operator new(std::size_t size) {
-  void* const memory = size > largest_allowed ? nullptr : std::malloc(size == 0 ? 1 : size);
+  void* const memory = size > largestAllowed ? nullptr : std::malloc(size == 0 ? 1 : size);
   if (memory == nullptr) throw std::bad_alloc();
   return memory;
 }
@@ -26,10 +26,10 @@ void operator delete(void* memory, std::size_t) noexcept { operator delete(memor
 namespace korventally::engine {
 namespace {
 
-Result RunWithin(const Study& study, std::size_t bytes) {
-  largest_allowed = bytes;
-  const Result result = study.Run();
-  largest_allowed = ~std::size_t{0};
+Result runWithin(const Study& study, std::size_t bytes) {
+  largestAllowed = bytes;
+  const Result result = study.run();
+  largestAllowed = ~std::size_t{0};
   return result;
 }
 
@@ -37,15 +37,15 @@ TEST(Memory, ThatDoesNotSufficeIsAFaultInPlainWords) {
   Study study;
   study.line(4) = "900000";
   study.line(14) = "1";
-  const Result result = RunWithin(study, 8000000);
+  const Result result = runWithin(study, 8000000);
   EXPECT_EQ(result.sentence,
             "There is not enough memory for the 5,400,000 averages of this case (44 MB).");
-  EXPECT_EQ(study.LastLine(), "RUN FAILED");
+  EXPECT_EQ(study.lastLine(), "RUN FAILED");
 }
 
 TEST(Memory, ThatIsMissingBeforeTheDataIsAFaultToo) {
   Study study;
-  const Result result = RunWithin(study, 20000);
+  const Result result = runWithin(study, 20000);
   EXPECT_NE(result.sentence.find("not enough memory"), std::string::npos) << result.sentence;
   EXPECT_NE(result.outcome, Outcome::kCompleted);
 }
@@ -54,11 +54,11 @@ TEST(Memory, ThatIsMissingBeforeTheDataIsAFaultToo) {
 TEST(Memory, DoesNotGrowWithTheHours) {
   Study study;
   const std::size_t enough = LineReader::kBlock + 4096;
-  ASSERT_EQ(RunWithin(study, enough).sentence, "");
+  ASSERT_EQ(runWithin(study, enough).sentence, "");
   for (const char* name : {"all.con", "group_2.con", "group_3.con"}) {
-    study.WriteHours(name, std::vector<std::string>(5006, "1 1"));
+    study.writeHours(name, std::vector<std::string>(5006, "1 1"));
   }
-  EXPECT_EQ(RunWithin(study, enough).sentence, "");
+  EXPECT_EQ(runWithin(study, enough).sentence, "");
 }
 
 }  // namespace

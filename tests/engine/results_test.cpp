@@ -13,7 +13,7 @@ namespace korventally::engine {
 namespace {
 
 // Values in ug/m**3 that the files give in g/m**3.
-std::string Micro(const std::vector<double>& values) {
+std::string micro(const std::vector<double>& values) {
   std::string row;
   for (const double value : values) {
     char text[32];
@@ -23,33 +23,33 @@ std::string Micro(const std::vector<double>& values) {
   return row;
 }
 
-void WriteMicro(const Study& study, const char* name,
+void writeMicro(const Study& study, const char* name,
                 const std::vector<std::vector<double>>& hours) {
   std::vector<std::string> rows;
-  for (const auto& hour : hours) rows.push_back(Micro(hour));
-  study.WriteHours(name, rows);
+  for (const auto& hour : hours) rows.push_back(micro(hour));
+  study.writeHours(name, rows);
 }
 
-std::string CompletedList(const Study& study) {
-  const Result result = study.Run();
+std::string completedList(const Study& study) {
+  const Result result = study.run();
   EXPECT_EQ(result.sentence, "");
-  EXPECT_EQ(study.LastLine(), "RUN COMPLETED");
-  return study.Read("out.lst");
+  EXPECT_EQ(study.lastLine(), "RUN COMPLETED");
+  return study.read("out.lst");
 }
 
-void ExpectSays(const std::string& list, const std::vector<std::string>& texts) {
+void expectSays(const std::string& list, const std::vector<std::string>& texts) {
   for (const std::string& text : texts) EXPECT_NE(list.find(text), list.npos) << text << list;
 }
 
-void ExpectSilent(const std::string& list, const std::string& text) {
+void expectSilent(const std::string& list, const std::string& text) {
   EXPECT_EQ(list.find(text), list.npos) << list;
 }
 
 // Receptor A averages 10, 12; B averages 20, 9. FACILITY at A 3, 0.9; at B 1, 5. OTHER_1 the rest.
-Study& Fill(Study& study) {
-  WriteMicro(study, "all.con", {{9, 20}, {10, 21}, {11, 19}, {12, 9}, {12, 10}, {12, 8}});
-  WriteMicro(study, "group_2.con", {{3, 1}, {3, 2}, {3, 0}, {0.9, 5}, {0.9, 5}, {0.9, 5}});
-  WriteMicro(study, "group_3.con", {{7, 19}, {7, 19}, {7, 19}, {11.1, 4}, {11.1, 4}, {11.1, 4}});
+Study& fill(Study& study) {
+  writeMicro(study, "all.con", {{9, 20}, {10, 21}, {11, 19}, {12, 9}, {12, 10}, {12, 8}});
+  writeMicro(study, "group_2.con", {{3, 1}, {3, 2}, {3, 0}, {0.9, 5}, {0.9, 5}, {0.9, 5}});
+  writeMicro(study, "group_3.con", {{7, 19}, {7, 19}, {7, 19}, {11.1, 4}, {11.1, 4}, {11.1, 4}});
   return study;
 }
 
@@ -105,26 +105,26 @@ TEST(Results, OfTwoReceptorsAndTwoBlocksByHand) {
   for (const Told& row : rows) {
     Study study;
     for (const auto& [line, value] : row.lines) study.line(line) = value;
-    ExpectSays(CompletedList(Fill(study)), row.says);
+    expectSays(completedList(fill(study)), row.says);
   }
 }
 
 TEST(Results, TakeValuesAtTheLimitsForWhatTheyAre) {
   // In doubles three hours of 9.7 average to a little more than 9.7, and of 8.4 to a little less.
   Study study;
-  WriteMicro(study, "all.con", std::vector<std::vector<double>>(6, {9.7, 9.8}));
-  WriteMicro(study, "group_2.con", std::vector<std::vector<double>>(6, {0.3, 8.4}));
-  WriteMicro(study, "group_3.con", std::vector<std::vector<double>>(6, {1, 1}));
+  writeMicro(study, "all.con", std::vector<std::vector<double>>(6, {9.7, 9.8}));
+  writeMicro(study, "group_2.con", std::vector<std::vector<double>>(6, {0.3, 8.4}));
+  writeMicro(study, "group_3.con", std::vector<std::vector<double>>(6, {1, 1}));
   study.line(15) = "9.7";
   study.line(19) = "8.4";
-  ExpectSays(CompletedList(study),
+  expectSays(completedList(study),
              {"Exceedances:                  2 (", "Receptors that exceed:        1 of 2",
               "Significant exceedances:      2 ("});
 }
 
 TEST(Results, OfEqualValuesTheEarliestAndFirstCounts) {
-  ExpectSays(
-      CompletedList(Study()),
+  expectSays(
+      completedList(Study()),
       {"ALL_SOURCES    1st            10.0000  A                100.0     200.0  2009-01-01 00",
        "               2nd            10.0000  A                100.0     200.0  2009-01-01 03",
        "   1  A                100.0     200.0  2009-01-01 00",
@@ -136,23 +136,23 @@ TEST(Results, OfTotalsThatOnlyRoundingTellsApartTheEarliestIsTheHighest) {
   study.line(15) = "1";
   study.line(21) = "T";
   // Both blocks sum up to 10, added in another order; FACILITY is there in the first one only.
-  WriteMicro(study, "all.con", {{1, 1}, {2, 2}, {7, 7}, {2, 2}, {7, 7}, {1, 1}});
-  WriteMicro(study, "group_2.con", {{5, 5}, {5, 5}, {5, 5}, {0, 0}, {0, 0}, {0, 0}});
-  ExpectSays(CompletedList(study), {"Significant exceedances:      0 ("});
+  writeMicro(study, "all.con", {{1, 1}, {2, 2}, {7, 7}, {2, 2}, {7, 7}, {1, 1}});
+  writeMicro(study, "group_2.con", {{5, 5}, {5, 5}, {5, 5}, {0, 0}, {0, 0}, {0, 0}});
+  expectSays(completedList(study), {"Significant exceedances:      0 ("});
 }
 
 TEST(Results, ShowWhereAReceptorLies) {
   Study study;
-  study.Write("receptors.dat", "-1234567.8 345.123 A\n4123456.7 -0.25 B\n");
-  ExpectSays(CompletedList(study),
+  study.write("receptors.dat", "-1234567.8 345.123 A\n4123456.7 -0.25 B\n");
+  expectSays(completedList(study),
              {"A             -1234568   345.123", "B            4123456.7     -0.25"});
 }
 
 TEST(Results, NeverShowAGroupsNameAsTheVerdict) {
   Study study(6);
   study.line(17) = "RUN COMPLETED";
-  CompletedList(study);
-  const std::vector<std::string> lines = study.List();
+  completedList(study);
+  const std::vector<std::string> lines = study.list();
   const auto isVerdict = [](const std::string& line) {
     const std::size_t start = line.find_first_not_of(' ');
     return start != std::string::npos && line.find("RUN COMPLETED", start) == start &&
@@ -166,33 +166,33 @@ TEST(Results, OfAnAnnualRunAreOneAverageOverAllOfIt) {
     Study study;
     study.line(14) = hours;
     study.line(15) = "14";
-    const std::string list = CompletedList(Fill(study));
-    ExpectSays(list,
+    const std::string list = completedList(fill(study));
+    expectSays(list,
                {"1 average of 6 hours, 2009-01-01 00 to 2009-01-01 05 (annual)",
                 "ALL_SOURCES    1st            14.5000  B", "Exceedances:                  1 (",
                 "The annual average covers 6 hours, which is less than a year."});
-    ExpectSilent(list, "2nd     ");
+    expectSilent(list, "2nd     ");
   }
 }
 
 TEST(Results, WarnWhenThePartsAreMoreThanTheWhole) {
   Study study;
-  Fill(study);
-  WriteMicro(study, "group_3.con", std::vector<std::vector<double>>(6, {8.5, 19.01}));
+  fill(study);
+  writeMicro(study, "group_3.con", std::vector<std::vector<double>>(6, {8.5, 19.01}));
   // Block 1: A 3 + 8.5 against 10, B 1 + 19.01 against 20 (within rounding); block 2: A below, B
   // above.
-  ExpectSays(
-      CompletedList(study),
+  expectSays(
+      completedList(study),
       {"In 2 averages the groups FACILITY and OTHER together give more than ALL_SOURCES",
        "The worst case: 24.0100 against 9.0000 ug/m**3 at receptor B,\r\n  from 2009-01-01 03."});
 }
 
 TEST(Results, TakeATenthOfAPerCentForRounding) {
   Study study;
-  WriteMicro(study, "all.con", std::vector<std::vector<double>>(6, {10, 10}));
-  WriteMicro(study, "group_2.con", std::vector<std::vector<double>>(6, {4, 4}));
-  WriteMicro(study, "group_3.con", std::vector<std::vector<double>>(6, {6.0105, 6.0115}));
-  ExpectSays(CompletedList(study), {"In 2 averages the groups FACILITY and OTHER",
+  writeMicro(study, "all.con", std::vector<std::vector<double>>(6, {10, 10}));
+  writeMicro(study, "group_2.con", std::vector<std::vector<double>>(6, {4, 4}));
+  writeMicro(study, "group_3.con", std::vector<std::vector<double>>(6, {6.0105, 6.0115}));
+  expectSays(completedList(study), {"In 2 averages the groups FACILITY and OTHER",
                                     "10.0115 against 10.0000 ug/m**3 at receptor B"});
 }
 
@@ -214,20 +214,20 @@ TEST(Results, RefuseRunsThatHoldNoAverage) {
     study.line(3) = row.start;
     study.line(4) = row.run;
     study.line(14) = row.averaging;
-    EXPECT_EQ(study.Run().sentence, row.says);
-    EXPECT_EQ(study.LastLine(), "RUN FAILED");
+    EXPECT_EQ(study.run().sentence, row.says);
+    EXPECT_EQ(study.lastLine(), "RUN FAILED");
   }
 }
 
 TEST(Results, FitTheWidthForAnyNumberOfGroupsAndNumbers) {
   for (const std::size_t groups : {2u, 5u, 6u, 50u}) {
     Study study(groups);
-    study.Write("receptors.dat", "-123456.7 4567890.1 TWELVE_CHARS\n1e9 -1e9 B\n");
-    WriteMicro(study, "all.con", std::vector<std::vector<double>>(6, {1e13, 123456.789}));
+    study.write("receptors.dat", "-123456.7 4567890.1 TWELVE_CHARS\n1e9 -1e9 B\n");
+    writeMicro(study, "all.con", std::vector<std::vector<double>>(6, {1e13, 123456.789}));
     for (std::size_t i = 3; i < groups; ++i) study.line(7 + 2 * i) = "THIRTEEN_WIDE";
-    CompletedList(study);
+    completedList(study);
     std::size_t widest = 0, cells = 0;
-    for (const std::string& line : study.List()) {
+    for (const std::string& line : study.list()) {
       const bool path = line.find(".con") != line.npos || line.find(".dat") != line.npos;
       if (!path) widest = std::max(widest, line.size());
       if (line.starts_with("---")) cells = line.size();
@@ -236,7 +236,7 @@ TEST(Results, FitTheWidthForAnyNumberOfGroupsAndNumbers) {
     if (groups == 5) {
       EXPECT_EQ(cells, 131u);
     }
-    ExpectSays(study.Read("out.lst"), {"1.0000E+13 yes"});
+    expectSays(study.read("out.lst"), {"1.0000E+13 yes"});
   }
 }
 
@@ -247,17 +247,17 @@ TEST(Results, ShowFiftyExceedancesAndCountTheRest) {
     study.line(14) = "1";
     std::vector<std::vector<double>> rows;
     for (std::size_t i = 0; i < hours; ++i) rows.push_back({100.0 + double(i), 200.0 + double(i)});
-    WriteMicro(study, "all.con", rows);
-    for (const char* name : {"group_2.con", "group_3.con"}) WriteMicro(study, name, rows);
-    const std::string list = CompletedList(study);
-    ExpectSays(
+    writeMicro(study, "all.con", rows);
+    for (const char* name : {"group_2.con", "group_3.con"}) writeMicro(study, name, rows);
+    const std::string list = completedList(study);
+    expectSays(
         list, {"Exceedances:                  " + std::to_string(2 * hours) + " (", "\r\n  50  A"});
-    ExpectSilent(list, "\r\n  51  ");
+    expectSilent(list, "\r\n  51  ");
     if (hours == 25) {
-      ExpectSilent(list, " more, all of them");
+      expectSilent(list, " more, all of them");
     } else {
       const std::string more = std::to_string(2 * hours - 50);
-      ExpectSays(list, {"  and " + more + " exceedances more, all of them"});
+      expectSays(list, {"  and " + more + " exceedances more, all of them"});
     }
   }
 }

@@ -11,10 +11,9 @@
 #include "engine/calendar.h"
 
 namespace korventally::engine {
-
 namespace {
 
-std::filesystem::path FreshFolder() {
+std::filesystem::path freshFolder() {
   static std::random_device device;
   const auto* const test = testing::UnitTest::GetInstance()->current_test_info();
   const std::string name = std::string(test->name()).substr(0, 40);
@@ -26,27 +25,27 @@ std::filesystem::path FreshFolder() {
   }
 }
 
-std::string ConcentrationName(std::size_t group) {
+std::string concentrationName(std::size_t group) {
   return group == 0 ? "all.con" : "group_" + std::to_string(group + 1) + ".con";
 }
 
 }  // namespace
 
-Study::Study(std::size_t groups) : folder_(FreshFolder()), groups_(groups) {
-  control = {Text("out.lst"), "SO2", "2009,01,01,00", "6", std::to_string(groups)};
+Study::Study(std::size_t groups) : folder_(freshFolder()), groups_(groups) {
+  control = {text("out.lst"), "SO2", "2009,01,01,00", "6", std::to_string(groups)};
   for (std::size_t i = 0; i < groups; ++i) {
-    const std::string name = ConcentrationName(i);
+    const std::string name = concentrationName(i);
     const std::string value = i == 0 ? "1.00000E-05" : "2.00000E-06";
-    WriteHours(name, std::vector<std::string>(6, value + " " + value));
-    control.push_back(Text(name));
+    writeHours(name, std::vector<std::string>(6, value + " " + value));
+    control.push_back(text(name));
     control.push_back(i == 0   ? "ALL_SOURCES"
                       : i == 1 ? "FACILITY"
                                : "OTHER_" + std::to_string(i - 1));
   }
   for (const char* value : {"1000000.0,0.0", "0", "3", "8.0", "1"}) control.emplace_back(value);
-  control.push_back(Text("receptors.dat"));
+  control.push_back(text("receptors.dat"));
   for (const char* value : {"1", "1.0", "2", "F", "0"}) control.emplace_back(value);
-  Write("receptors.dat", "# X Y ID\n100.0 200.0 A\n300.5 -400 B\n");
+  write("receptors.dat", "# X Y ID\n100.0 200.0 A\n300.5 -400 B\n");
 }
 
 Study::~Study() {
@@ -54,41 +53,41 @@ Study::~Study() {
   std::filesystem::remove_all(folder_, ignored);
 }
 
-std::string Study::Text(std::string_view name) const { return TextFromPath(Path(name)); }
+std::string Study::text(std::string_view name) const { return textFromPath(path(name)); }
 
-void Study::Write(std::string_view name, std::string_view bytes) const {
-  std::ofstream(Path(name), std::ios::binary) << bytes;
+void Study::write(std::string_view name, std::string_view bytes) const {
+  std::ofstream(path(name), std::ios::binary) << bytes;
 }
 
-std::string Study::Read(std::string_view name) const {
-  std::ifstream file(Path(name), std::ios::binary);
+std::string Study::read(std::string_view name) const {
+  std::ifstream file(path(name), std::ios::binary);
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
-void Study::WriteHours(std::string_view name, const std::vector<std::string>& hours) const {
+void Study::writeHours(std::string_view name, const std::vector<std::string>& hours) const {
   std::string text = "# hourly values\n";
-  const Hour start = *HourFromDate(2009, 1, 1, 0);
+  const Hour start = *hourFromDate(2009, 1, 1, 0);
   for (std::size_t i = 0; i < hours.size(); ++i) {
-    std::string date = DateText(start + static_cast<Hour>(i));
+    std::string date = dateText(start + static_cast<Hour>(i));
     for (char& c : date) c = c == '-' ? ' ' : c;
     text += date + " " + hours[i] + "\n";
   }
-  Write(name, text);
+  write(name, text);
 }
 
-void Study::WriteControl() const {
+void Study::writeControl() const {
   std::string text;
-  for (const std::string& value : control) text += prefix + value + line_end;
-  Write("korventally.inp", text);
+  for (const std::string& value : control) text += prefix + value + lineEnd;
+  write("korventally.inp", text);
 }
 
-Result Study::Run() const {
-  WriteControl();
-  return korventally::engine::RunCase(Path("korventally.inp"));
+Result Study::run() const {
+  writeControl();
+  return korventally::engine::runCase(path("korventally.inp"));
 }
 
-std::vector<std::string> Study::List() const {
-  std::istringstream text(Read("out.lst"));
+std::vector<std::string> Study::list() const {
+  std::istringstream text(read("out.lst"));
   std::vector<std::string> lines;
   for (std::string line; std::getline(text, line);) {
     if (!line.empty() && line.back() == '\r') line.pop_back();
@@ -97,8 +96,8 @@ std::vector<std::string> Study::List() const {
   return lines;
 }
 
-std::string Study::LastLine() const {
-  const std::vector<std::string> lines = List();
+std::string Study::lastLine() const {
+  const std::vector<std::string> lines = list();
   return lines.empty() ? "" : lines.back();
 }
 

@@ -10,48 +10,48 @@ namespace korventally::engine {
 namespace {
 
 TEST(Text, WholeNumbersAreDigitsOnlyAndFitAnyCounter) {
-  EXPECT_EQ(ParseWhole("0"), 0);
-  EXPECT_EQ(ParseWhole("007"), 7);
-  EXPECT_EQ(ParseWhole("999999999"), 999999999);
+  EXPECT_EQ(parseWhole("0"), 0);
+  EXPECT_EQ(parseWhole("007"), 7);
+  EXPECT_EQ(parseWhole("999999999"), 999999999);
   for (const char* bad : {"", " 1", "1 ", "+1", "-1", "1.0", "1e3", "1234567890", "4294967297"}) {
-    EXPECT_EQ(ParseWhole(bad), std::nullopt) << bad;
+    EXPECT_EQ(parseWhole(bad), std::nullopt) << bad;
   }
 }
 
 TEST(Text, DecimalsFillTheWholeTextAndAreFinite) {
-  EXPECT_EQ(ParseDecimal("91.0"), 91.0);
-  EXPECT_EQ(ParseDecimal(".5"), 0.5);
-  EXPECT_EQ(ParseDecimal("-3e2"), -300.0);
+  EXPECT_EQ(parseDecimal("91.0"), 91.0);
+  EXPECT_EQ(parseDecimal(".5"), 0.5);
+  EXPECT_EQ(parseDecimal("-3e2"), -300.0);
   for (const char* bad : {"", " 1", "1 ", "+1", "1,5", "1.2.3", "nan", "inf", "1e999", "0x1p3"}) {
-    EXPECT_EQ(ParseDecimal(bad), std::nullopt) << bad;
+    EXPECT_EQ(parseDecimal(bad), std::nullopt) << bad;
   }
 }
 
 TEST(Text, QuotedTextStaysInsideOneSentence) {
-  EXPECT_EQ(Quoted("a\r\nRUN COMPLETED\t"), "\"a??RUN COMPLETED?\"");
-  EXPECT_EQ(Quoted(std::string(261, 'x')), "\"" + std::string(260, 'x') + "...\"");
-  EXPECT_EQ(Quoted(std::string(260, 'x')), "\"" + std::string(260, 'x') + "\"");
+  EXPECT_EQ(inQuotes("a\r\nRUN COMPLETED\t"), "\"a??RUN COMPLETED?\"");
+  EXPECT_EQ(inQuotes(std::string(261, 'x')), "\"" + std::string(260, 'x') + "...\"");
+  EXPECT_EQ(inQuotes(std::string(260, 'x')), "\"" + std::string(260, 'x') + "\"");
 }
 
 TEST(Text, NumbersInWords) {
-  EXPECT_EQ(Counted(1, "hour"), "1 hour");
-  EXPECT_EQ(Counted(0, "hour"), "0 hours");
-  EXPECT_EQ(Grouped(999), "999");
-  EXPECT_EQ(Grouped(1000), "1,000");
-  EXPECT_EQ(Grouped(1234567), "1,234,567");
+  EXPECT_EQ(counted(1, "hour"), "1 hour");
+  EXPECT_EQ(counted(0, "hour"), "0 hours");
+  EXPECT_EQ(grouped(999), "999");
+  EXPECT_EQ(grouped(1000), "1,000");
+  EXPECT_EQ(grouped(1234567), "1,234,567");
 }
 
 TEST(Columns, NumbersKeepTheirWidth) {
-  EXPECT_EQ(Fixed(91.00004, 4), "91.0000");
-  EXPECT_EQ(Fixed(12345.67894, 4), "12345.6789");
-  EXPECT_EQ(Fixed(123456.789, 4), "123456.789");
-  EXPECT_EQ(Fixed(-1234567.8, 1, 9), "-1234568");
-  EXPECT_EQ(Fixed(12345678901.0, 4), "1.2346E+10");
-  EXPECT_EQ(Fixed(1234.5678, 3, 8), "1234.568");
-  EXPECT_EQ(Fixed(12345.678, 3, 8), "12345.68");
-  EXPECT_EQ(Fixed(123456789.0, 3, 8), "1.23E+08");
-  EXPECT_EQ(Shortest(91.0), "91");
-  EXPECT_EQ(Shortest(0.2), "0.2");
+  EXPECT_EQ(fixed(91.00004, 4), "91.0000");
+  EXPECT_EQ(fixed(12345.67894, 4), "12345.6789");
+  EXPECT_EQ(fixed(123456.789, 4), "123456.789");
+  EXPECT_EQ(fixed(-1234567.8, 1, 9), "-1234568");
+  EXPECT_EQ(fixed(12345678901.0, 4), "1.2346E+10");
+  EXPECT_EQ(fixed(1234.5678, 3, 8), "1234.568");
+  EXPECT_EQ(fixed(12345.678, 3, 8), "12345.68");
+  EXPECT_EQ(fixed(123456789.0, 3, 8), "1.23E+08");
+  EXPECT_EQ(shortest(91.0), "91");
+  EXPECT_EQ(shortest(0.2), "0.2");
 }
 
 }  // namespace

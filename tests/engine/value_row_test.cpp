@@ -27,7 +27,7 @@ class Row {
   std::string text_;
 };
 
-std::string Formatted(std::mt19937& random, const std::string& format) {
+std::string formatted(std::mt19937& random, const std::string& format) {
   std::uniform_real_distribution<double> exponent(-30, 4);
   const double value = random() % 8 == 0 ? 0 : std::pow(10, exponent(random));
   char text[400];
@@ -47,15 +47,15 @@ TEST(ValueRow, ReadsEveryFormatExactlyAsTheCLibraryDoes) {
     for (int i = 0; i < 20; ++i) {
       // Mostly one shape, as in real files, with a stranger now and then.
       if (random() % 10 == 0) format = formats[random() % std::size(formats)];
-      const std::string value = Formatted(random, format);
+      const std::string value = formatted(random, format);
       line += separators[random() % 5 == 0 ? random() % std::size(separators) : 0] + value;
       expected.push_back(std::strtod(value.c_str(), nullptr));
     }
     std::vector<double> sums(20, 0.0);
     ValueRow row;
-    ASSERT_TRUE(row.AddTo(sums, Row(line).values())) << line;
+    ASSERT_TRUE(row.addTo(sums, Row(line).values())) << line;
     ASSERT_EQ(sums, expected) << line;
-    ASSERT_TRUE(row.AddTo(sums, Row(line + " \t").values())) << line;
+    ASSERT_TRUE(row.addTo(sums, Row(line + " \t").values())) << line;
     for (double& value : expected) value += value;
     ASSERT_EQ(sums, expected) << line;
   }
@@ -107,19 +107,19 @@ TEST(ValueRow, RefusesWhatIsNotTwoConcentrationsAndSaysWhy) {
       ValueRow row;
       double one[1] = {};
       if (warm) {
-        ASSERT_TRUE(row.AddTo(one, Row(" 1.00000E-05").values()));
+        ASSERT_TRUE(row.addTo(one, Row(" 1.00000E-05").values()));
       }
       double sums[2] = {};
-      EXPECT_FALSE(row.AddTo(sums, values.values()));
+      EXPECT_FALSE(row.addTo(sums, values.values()));
     }
-    EXPECT_EQ(ExplainValues(values.values(), 2), bad.says);
+    EXPECT_EQ(explainValues(values.values(), 2), bad.says);
   }
 }
 
 TEST(ValueRow, TakesTheEdgesOfTheRange) {
   double sums[4] = {};
   ValueRow row;
-  ASSERT_TRUE(row.AddTo(sums, Row(" 1e9 -0.0 9.99999E+07 1.00000E-105").values()));
+  ASSERT_TRUE(row.addTo(sums, Row(" 1e9 -0.0 9.99999E+07 1.00000E-105").values()));
   EXPECT_EQ(sums[0], 1e9);
   EXPECT_EQ(sums[1], 0.0);
   EXPECT_EQ(sums[2], 99999900.0);

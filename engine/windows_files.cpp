@@ -10,12 +10,11 @@
 #include "engine/system_files.h"
 
 namespace korventally::engine {
-
 namespace {
 
-HANDLE Handle(std::intptr_t handle) { return reinterpret_cast<HANDLE>(handle); }
+HANDLE asHandle(std::intptr_t handle) { return reinterpret_cast<HANDLE>(handle); }
 
-std::string Narrow(std::wstring_view text) {
+std::string toNarrow(std::wstring_view text) {
   const auto length = static_cast<int>(text.size());
   if (length == 0) return {};
   const int size =
@@ -25,11 +24,11 @@ std::string Narrow(std::wstring_view text) {
   return narrow;
 }
 
-std::string SystemText(DWORD error) {
+std::string systemText(DWORD error) {
   wchar_t text[512];
   const DWORD flags = FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS;
   const DWORD size = FormatMessageW(flags, nullptr, error, 0, text, 512, nullptr);
-  std::string narrow = Narrow({text, size});
+  std::string narrow = toNarrow({text, size});
   const auto isBlank = [](char c) { return static_cast<unsigned char>(c) <= ' '; };
   while (!narrow.empty() && (isBlank(narrow.back()) || narrow.back() == '.')) narrow.pop_back();
   for (char& c : narrow) {
@@ -38,13 +37,13 @@ std::string SystemText(DWORD error) {
   return narrow.empty() ? "the system gives no reason" : narrow;
 }
 
-[[noreturn]] void Fail(const NativePath& path, const std::string& what, DWORD error) {
-  throw Fault("The file " + TextFromPath(path) + " cannot be " + what + ": " + SystemText(error) +
+[[noreturn]] void fail(const NativePath& path, const std::string& what, DWORD error) {
+  throw Fault("The file " + textFromPath(path) + " cannot be " + what + ": " + systemText(error) +
               " (error " + std::to_string(error) + ").");
 }
 
 // The full path; from 248 characters on in the form that lifts the limit of 260.
-std::wstring FullPath(const NativePath& path) {
+std::wstring fullPath(const NativePath& path) {
   std::wstring full(32768, L'\0');
   const DWORD size =
       GetFullPathNameW(path.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr);
@@ -58,19 +57,19 @@ std::wstring FullPath(const NativePath& path) {
 
 constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
-HANDLE Open(const NativePath& path, DWORD access, DWORD disposition, DWORD flags,
+HANDLE open(const NativePath& path, DWORD access, DWORD disposition, DWORD flags,
             DWORD share = kShareAll) {
-  return CreateFileW(FullPath(path).c_str(), access, share, nullptr, disposition, flags, nullptr);
+  return CreateFileW(fullPath(path).c_str(), access, share, nullptr, disposition, flags, nullptr);
 }
 
 // Refuses consoles, pipes and devices such as NUL, which open like files but hold nothing.
-void RequireDiskFile(HANDLE handle, const NativePath& path) {
+void requireDiskFile(HANDLE handle, const NativePath& path) {
   if (GetFileType(handle) == FILE_TYPE_DISK) return;
   CloseHandle(handle);
-  throw Fault("The file " + TextFromPath(path) + " cannot be opened: it is not an ordinary file.");
+  throw Fault("The file " + textFromPath(path) + " cannot be opened: it is not an ordinary file.");
 }
 
-DWORD WriteAll(HANDLE handle, std::string_view text) {
+DWORD writeAll(HANDLE handle, std::string_view text) {
   while (!text.empty()) {
     DWORD written = 0;
     const auto size = static_cast<DWORD>(text.size() < (1u << 30) ? text.size() : (1u << 30));
@@ -81,7 +80,7 @@ DWORD WriteAll(HANDLE handle, std::string_view text) {
   return ERROR_SUCCESS;
 }
 
-bool MoveTo(HANDLE handle, std::uint64_t place, DWORD method, std::uint64_t* end) {
+bool moveTo(HANDLE handle, std::uint64_t place, DWORD method, std::uint64_t* end) {
   LARGE_INTEGER distance, result;
   distance.QuadPart = static_cast<LONGLONG>(place);
   if (!SetFilePointerEx(handle, distance, &result, method)) return false;
@@ -89,28 +88,28 @@ bool MoveTo(HANDLE handle, std::uint64_t place, DWORD method, std::uint64_t* end
   return true;
 }
 
-std::atomic<HANDLE> crash_handle{INVALID_HANDLE_VALUE};
-std::string_view crash_notice;
+std::atomic<HANDLE> crashHandle{INVALID_HANDLE_VALUE};
+std::string_view crashNotice;
 
-void LeaveNotice() {
-  const HANDLE handle = crash_handle.exchange(INVALID_HANDLE_VALUE);
-  if (handle != INVALID_HANDLE_VALUE) static_cast<void>(WriteAll(handle, crash_notice));
+void leaveNotice() {
+  const HANDLE handle = crashHandle.exchange(INVALID_HANDLE_VALUE);
+  if (handle != INVALID_HANDLE_VALUE) static_cast<void>(writeAll(handle, crashNotice));
 }
 
-LONG WINAPI OnException(EXCEPTION_POINTERS*) {
-  LeaveNotice();
+LONG WINAPI onException(EXCEPTION_POINTERS*) {
+  leaveNotice();
   return EXCEPTION_EXECUTE_HANDLER;
 }
 
-BOOL WINAPI OnConsoleEvent(DWORD) {
-  LeaveNotice();
+BOOL WINAPI onConsoleEvent(DWORD) {
+  leaveNotice();
   TerminateProcess(GetCurrentProcess(), 1);
   return TRUE;
 }
 
 }  // namespace
 
-NativePath PathFromText(std::string_view text) {
+NativePath pathFromText(std::string_view text) {
   const auto length = static_cast<int>(text.size());
   if (length == 0) return {};
   const int size =
@@ -121,11 +120,11 @@ NativePath PathFromText(std::string_view text) {
   return NativePath(wide);
 }
 
-std::string TextFromPath(const NativePath& path) { return Narrow(path.native()); }
+std::string textFromPath(const NativePath& path) { return toNarrow(path.native()); }
 
-bool SameFile(const NativePath& one, const NativePath& other) {
-  const HANDLE first = Open(one, 0, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS);
-  const HANDLE second = Open(other, 0, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS);
+bool sameFile(const NativePath& one, const NativePath& other) {
+  const HANDLE first = open(one, 0, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS);
+  const HANDLE second = open(other, 0, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS);
   BY_HANDLE_FILE_INFORMATION a, b;
   const bool known = first != INVALID_HANDLE_VALUE && second != INVALID_HANDLE_VALUE &&
                      GetFileInformationByHandle(first, &a) &&
@@ -137,75 +136,76 @@ bool SameFile(const NativePath& one, const NativePath& other) {
 }
 
 InputFile::InputFile(const NativePath& path) : path_(path) {
-  const HANDLE handle = Open(path, GENERIC_READ, OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN);
-  if (handle == INVALID_HANDLE_VALUE) Fail(path_, "opened", GetLastError());
-  RequireDiskFile(handle, path);
+  const HANDLE handle = open(path, GENERIC_READ, OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN);
+  if (handle == INVALID_HANDLE_VALUE) fail(path_, "opened", GetLastError());
+  requireDiskFile(handle, path);
   LARGE_INTEGER size;
   if (!GetFileSizeEx(handle, &size)) {
     const DWORD error = GetLastError();
     CloseHandle(handle);
-    Fail(path_, "read", error);
+    fail(path_, "read", error);
   }
   handle_ = reinterpret_cast<std::intptr_t>(handle);
   size_ = static_cast<std::uint64_t>(size.QuadPart);
 }
 
-InputFile::~InputFile() { CloseHandle(Handle(handle_)); }
+InputFile::~InputFile() { CloseHandle(asHandle(handle_)); }
 
-std::size_t InputFile::Read(char* to, std::size_t size) {
+std::size_t InputFile::read(char* to, std::size_t size) {
   DWORD count = 0;
   const auto wanted = static_cast<DWORD>(size < (1u << 30) ? size : (1u << 30));
-  if (!ReadFile(Handle(handle_), to, wanted, &count, nullptr)) Fail(path_, "read", GetLastError());
+  if (!ReadFile(asHandle(handle_), to, wanted, &count, nullptr))
+    fail(path_, "read", GetLastError());
   return count;
 }
 
 OutputFile::OutputFile(const NativePath& path) : path_(path) {
   // Nobody else may write: the verdict of another run must not get into this list file.
-  const HANDLE handle = Open(path, GENERIC_WRITE, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL,
+  const HANDLE handle = open(path, GENERIC_WRITE, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL,
                              FILE_SHARE_READ | FILE_SHARE_DELETE);
-  if (handle == INVALID_HANDLE_VALUE) Fail(path_, "created", GetLastError());
-  RequireDiskFile(handle, path);
+  if (handle == INVALID_HANDLE_VALUE) fail(path_, "created", GetLastError());
+  requireDiskFile(handle, path);
   handle_ = reinterpret_cast<std::intptr_t>(handle);
 }
 
-// What the system held back until now was asked for by Flush().
-OutputFile::~OutputFile() { CloseHandle(Handle(handle_)); }
+// What the system held back until now was asked for by flush().
+OutputFile::~OutputFile() { CloseHandle(asHandle(handle_)); }
 
-void OutputFile::Append(std::string_view text) {
-  const DWORD error = WriteAll(Handle(handle_), text);
+void OutputFile::append(std::string_view text) {
+  const DWORD error = writeAll(asHandle(handle_), text);
   // The part of a failed write that did arrive belongs to the file all the same.
-  MoveTo(Handle(handle_), 0, FILE_END, &size_);
-  if (error != ERROR_SUCCESS) Fail(path_, "written", error);
+  moveTo(asHandle(handle_), 0, FILE_END, &size_);
+  if (error != ERROR_SUCCESS) fail(path_, "written", error);
 }
 
-void OutputFile::ReplaceFrom(std::uint64_t place, std::string_view text) {
-  if (!MoveTo(Handle(handle_), place, FILE_BEGIN, &size_)) Fail(path_, "written", GetLastError());
-  const DWORD error = WriteAll(Handle(handle_), text);
-  if (error != ERROR_SUCCESS) Fail(path_, "written", error);
+void OutputFile::replaceFrom(std::uint64_t place, std::string_view text) {
+  if (!moveTo(asHandle(handle_), place, FILE_BEGIN, &size_)) fail(path_, "written", GetLastError());
+  const DWORD error = writeAll(asHandle(handle_), text);
+  if (error != ERROR_SUCCESS) fail(path_, "written", error);
   size_ = place + text.size();
-  if (!SetEndOfFile(Handle(handle_))) Fail(path_, "cut", GetLastError());
+  if (!SetEndOfFile(asHandle(handle_))) fail(path_, "cut", GetLastError());
 }
 
-void OutputFile::Flush() {
-  if (!FlushFileBuffers(Handle(handle_))) Fail(path_, "written", GetLastError());
+void OutputFile::flush() {
+  if (!FlushFileBuffers(asHandle(handle_))) fail(path_, "written", GetLastError());
 }
 
-void ArmCrashNotice(const OutputFile& file, std::string_view notice) {
-  crash_notice = notice;
-  crash_handle = Handle(file.handle_);
-  SetUnhandledExceptionFilter(OnException);
-  SetConsoleCtrlHandler(OnConsoleEvent, TRUE);
+void armCrashNotice(const OutputFile& file, std::string_view notice) {
+  crashNotice = notice;
+  crashHandle = asHandle(file.handle_);
+  SetUnhandledExceptionFilter(onException);
+  SetConsoleCtrlHandler(onConsoleEvent, TRUE);
   // Neither of these reaches the exception filter.
   std::signal(SIGABRT, [](int) {
-    LeaveNotice();
+    leaveNotice();
     std::_Exit(3);
   });
   std::set_terminate([] {
-    LeaveNotice();
+    leaveNotice();
     std::_Exit(3);
   });
 }
 
-void DisarmCrashNotice() { crash_handle = INVALID_HANDLE_VALUE; }
+void disarmCrashNotice() { crashHandle = INVALID_HANDLE_VALUE; }
 
 }  // namespace korventally::engine
