@@ -99,34 +99,34 @@ void MoveOnAtEnter(Window& window, std::int16_t& keyCode) {
   keyCode = 0;
 }
 
-void WaitMilliseconds(std::int16_t duration, const std::function<bool()>& interrupted) {
+void WaitMilliseconds(std::int16_t duration, const std::stop_token& stop) {
+  if (duration <= 0) return;
   const std::uint32_t start = tickCount();
-  const auto stop = [&] { return timeIsUp() || (interrupted && interrupted()); };
   // Unsigned: the difference stays right when the tick counter wraps during the wait.
-  while (!stop() && duration > 0 && tickCount() - start < static_cast<std::uint32_t>(duration)) {
+  while (!timeIsUp() && !stop.stop_requested() &&
+         tickCount() - start < static_cast<std::uint32_t>(duration)) {
     processPendingEvents();
   }
 }
 
-void AnimateRunning(Label& label, const std::function<bool()>& interrupted) {
+void AnimateRunning(Label& label, const std::stop_token& stop) {
   for (const char* caption : {"Running.", "Running..", "Running..."}) {
-    if (interrupted && interrupted()) return;
+    if (stop.stop_requested()) return;
     label.setText(caption);
-    WaitMilliseconds(500, interrupted);
+    WaitMilliseconds(500, stop);
   }
 }
 
 Status OpenFileInNotepad(const std::string& directory, const std::string& fileName,
-                         const std::function<bool()>& interrupted) {
+                         const std::stop_token& stop) {
   const std::string folder = joinPath(trimBlanks(directory), "");
   const std::string batch = folder + "open_file.bat";
   // An editor opened a moment ago has its batch file still in use.
   runNow(batch);
-  Status status = retryWhileBusy(
-      [&] { return writeTextFile(batch, {"notepad " + batchQuoted(folder + fileName)}); },
-      interrupted);
-  if (!status) return status;
-  if (interrupted && interrupted()) return removeOwnFile(batch);
+  const Status written = retryWhileBusy(
+      [&] { return writeTextFile(batch, {"notepad " + batchQuoted(folder + fileName)}); }, stop);
+  if (stop.stop_requested()) return written ? removeOwnFile(batch) : Status();
+  if (!written) return written;
   auto started = startBatchFile(batch, WindowStyle::kHidden, StartFolder::kSystem);
   const std::shared_ptr<BatchRun> editor = started ? std::move(started.value()) : nullptr;
   runLater(batch, kEditorBatchLifetime, [batch, editor] {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
+#include <stop_token>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -45,19 +45,20 @@ void FilterDigitKey(std::int16_t& keyCode);
 void MoveOnAtEnter(Window& window, std::int16_t& keyCode);
 
 /// Waits at least `duration` milliseconds, busily, while events are handled: any other handler may
-/// run before it returns. A duration of zero or less returns at once. Ends early once `interrupted`
-/// says so.
-void WaitMilliseconds(std::int16_t duration, const std::function<bool()>& interrupted = {});
+/// run before it returns. A duration of zero or less returns at once. Ends early when `stop` is
+/// requested.
+void WaitMilliseconds(std::int16_t duration, const std::stop_token& stop = {});
 
-/// Shows "Running.", "Running..", "Running..." in turn, 500 ms each; stops when interrupted.
-void AnimateRunning(Label& label, const std::function<bool()>& interrupted = {});
+/// Shows "Running.", "Running..", "Running..." in turn, 500 ms each; ends early when `stop` is
+/// requested.
+void AnimateRunning(Label& label, const std::stop_token& stop = {});
 
 /// Opens a file of the directory in notepad, through the batch file "open_file.bat" in that
 /// directory. The batch file is deleted 5000 ms after it was started, whatever the user does
-/// meanwhile. Returns why the batch file could not be written or started; nothing is opened when
-/// `interrupted` says that nobody wants it any more.
+/// meanwhile. Returns why the batch file could not be written or started, or not be deleted after
+/// `stop` was requested, because nobody wants the file opened any more.
 Status OpenFileInNotepad(const std::string& directory, const std::string& fileName,
-                         const std::function<bool()>& interrupted = {});
+                         const std::stop_token& stop = {});
 
 /// Text without its leading and trailing blanks (character 32 only).
 std::string trimBlanks(std::string_view text);

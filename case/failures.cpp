@@ -21,21 +21,20 @@ std::string reasonOf(const Error& error) {
   return error.text + " (" + std::to_string(error.code) + ")";
 }
 
-Status retryWhileBusy(const std::function<Status()>& operation,
-                      const std::function<bool()>& interrupted) {
+Status retryWhileBusy(const std::function<Status()>& operation, const std::stop_token& stop) {
   const std::uint32_t start = tickCount();
   Status status = operation();
   while (!status && status.error().kind == ErrorKind::kBusy && tickCount() - start < kPatience) {
-    WaitMilliseconds(kPause, interrupted);
+    WaitMilliseconds(kPause, stop);
     // Nobody wants the operation any more: it must not happen behind a closed window.
-    if (interrupted && interrupted()) break;
+    if (stop.stop_requested()) break;
     status = operation();
   }
   return status;
 }
 
-Status removeOwnFile(const std::string& path, const std::function<bool()>& interrupted) {
-  Status status = retryWhileBusy([&] { return deleteFile(path); }, interrupted);
+Status removeOwnFile(const std::string& path, const std::stop_token& stop) {
+  Status status = retryWhileBusy([&] { return deleteFile(path); }, stop);
   const bool gone = !status && status.error().kind == ErrorKind::kNotFound && !fileExists(path);
   if (gone) return {};
   return status;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <stop_token>
 #include <string>
 
 #include "platform/result.h"
@@ -10,12 +11,11 @@ namespace korventally {
 class Window;
 
 /// Tries an operation again for about 1.5 s while another program keeps the file busy, as a virus
-/// scanner does with a new one. Events are handled in between; `interrupted` ends the trying.
-Status retryWhileBusy(const std::function<Status()>& operation,
-                      const std::function<bool()>& interrupted = {});
+/// scanner does with a new one. Events are handled in between; a request to `stop` ends the trying.
+Status retryWhileBusy(const std::function<Status()>& operation, const std::stop_token& stop = {});
 
 /// Deletes one of the program's own files, with retries. One that is gone already is as good.
-Status removeOwnFile(const std::string& path, const std::function<bool()>& interrupted = {});
+Status removeOwnFile(const std::string& path, const std::stop_token& stop = {});
 
 /// The system's reason with its number.
 std::string reasonOf(const Error& error);

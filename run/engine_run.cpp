@@ -37,14 +37,15 @@ Status nothingAt(const std::string& path) {
 EngineRun::EngineRun(Window& window, Label& lblRunning)
     : case_(basModule::analysisCase),
       listFile_(case_.WorkDir + case_.ListFile),
+      controlFile_(controlFilePath(case_)),
+      batchFile_(batchFilePath(case_)),
       keepFiles_(case_.DebugMode),
-      controlFile_{controlFilePath(case_)},
-      batchFile_{batchFilePath(case_)},
       window_(window),
-      lblRunning_(lblRunning) {}
+      lblRunning_(lblRunning),
+      patience_(tickCount()) {}
 
 EngineRun::~EngineRun() {
-  if (!over_) abandon();
+  if (phase_ != Phase::kOver) abandon();
 }
 
 bool EngineRun::prepare() {
@@ -68,37 +69,41 @@ bool EngineRun::checkCodePage() {
   for (std::string& line : batchFileLines(case_)) texts.push_back(std::move(line));
   for (const std::string& text : texts) {
     if (toAnsi(text)) continue;
-    messageBox(&window_,
-               "This text holds characters that the system's code page lacks:\n" + text +
-                   "\n\nThe engine could not read it. Please use another name for the file, folder "
-                   "or group.",
-               kErrorTitle);
+    messageBox(
+        &window_,
+        "This text contains characters that cannot be written in this system's code page:\n" +
+            text +
+            "\n\nThe engine could not read it. Please use another name for the file, folder "
+            "or group.",
+        kErrorTitle);
     return false;
   }
   return true;
 }
 
 bool EngineRun::removeOldBatchFile() {
-  if (!fileExists(batchFile_.path)) return true;
-  const Status removed = removeOwnFile(batchFile_.path, interrupted_);
+  if (!fileExists(batchFile_)) return true;
+  const Status removed = removeOwnFile(batchFile_, stop_.get_token());
   if (!removed) {
     return fail("The batch file of an earlier run could not be deleted:", removed.error(),
                 kFolderAdvice);
   }
-  return !abandoned_;
+  return !abandoned();
 }
 
 /// A verdict may only ever be read from a file that this run's engine wrote. So nothing at all may
 /// be left under the list file's name, whatever the deletion reported: no folder, no hidden file.
 bool EngineRun::removeOldListFile() {
   Status removed;
-  if (fileExists(listFile_)) removed = removeOwnFile(listFile_, interrupted_);
-  if (removed) removed = retryWhileBusy([this] { return nothingAt(listFile_); }, interrupted_);
+  if (fileExists(listFile_)) removed = removeOwnFile(listFile_, stop_.get_token());
+  if (removed) {
+    removed = retryWhileBusy([this] { return nothingAt(listFile_); }, stop_.get_token());
+  }
   if (!removed) {
     return fail("The list file of an earlier run could not be deleted:", removed.error(),
                 kFolderAdvice);
   }
-  return !abandoned_;
+  return !abandoned();
 }
 
 bool EngineRun::writeControlFile() {
@@ -108,26 +113,33 @@ bool EngineRun::writeControlFile() {
 
 bool EngineRun::writeBatchFile() {
   return write(batchFile_, "The batch file could not be written:", [this] {
-    return writeTextFile(batchFile_.path, batchFileLines(case_));
+    return writeTextFile(batchFile_, batchFileLines(case_));
   });
 }
 
-bool EngineRun::write(OwnFile& file, const std::string& what,
+bool EngineRun::write(const std::string& path, const std::string& what,
                       const std::function<Status()>& operation) {
-  const Status written = retryWhileBusy(operation, interrupted_);
-  file.written = written.ok();
-  return written ? !abandoned_ : fail(what, written.error(), kFolderAdvice);
+  const Status written = retryWhileBusy(operation, stop_.get_token());
+  if (!written) return fail(what, written.error(), kFolderAdvice);
+  if (!keepFiles_) ownFiles_.push_back(path);
+  return !abandoned();
+}
+
+bool EngineRun::fail(const std::string& what, const Error& error, const std::string& advice) {
+  if (!abandoned()) showFailure(&window_, what, error, advice);
+  return false;
 }
 
 bool EngineRun::start() {
   const WindowStyle style = case_.DebugMode ? WindowStyle::kNormalFocus : WindowStyle::kHidden;
-  auto processes = startBatchFile(batchFile_.path, style, StartFolder::kCurrent);
+  auto processes = startBatchFile(batchFile_, style, StartFolder::kCurrent);
   if (!processes) {
     return fail("The command interpreter could not be started:", processes.error(),
                 "Please ask the administrator of this computer.");
   }
   processes_ = std::move(processes.value());
   patience_ = Patience(tickCount());
+  phase_ = Phase::kAwaitingVerdict;
   return true;
 }
 
@@ -138,13 +150,13 @@ std::optional<Verdict> EngineRun::waitForVerdict() {
   while (!verdict && wait(kBeforeEachScan) && awaitListFile()) {
     // Asked before the reading: what the last process wrote is then sure to be read.
     const bool gone = processesGone();
-    const auto read = readVerdict(listFile_, interrupted_);
+    const Reading read = readVerdict(listFile_, stop_.get_token());
     if (read) verdict = read.value();
-    if (!verdict && !worthWaitingAfter(read, gone)) break;
-    AnimateRunning(lblRunning_, interrupted_);
+    if (!verdict && !keepWaitingOrAsk(doubtAfter(read, gone))) break;
+    AnimateRunning(lblRunning_, stop_.get_token());
   }
   wait(kBeforeVerdictShows);
-  return abandoned_ ? std::nullopt : verdict;
+  return abandoned() ? std::nullopt : verdict;
 }
 
 /// False when there is nothing left to wait for.
@@ -152,48 +164,53 @@ bool EngineRun::awaitListFile() {
   while (true) {
     const bool gone = processesGone();
     if (fileExists(listFile_)) return true;
-    const std::uint32_t now = tickCount();
-    if (gone && patience_.verdictOverdue(now)) {
-      if (!keepWaiting("The engine has ended without writing its list file:")) return false;
-    } else if (patience_.listFileOverdue(now)) {
-      if (!keepWaiting("The engine has not written its list file yet:")) return false;
-    }
-    if (!wait(kListFilePause)) return false;
+    if (!keepWaitingOrAsk(doubtWithoutListFile(gone)) || !wait(kListFilePause)) return false;
   }
 }
 
-/// After a reading that gave no verdict. A file that could not be read has not been searched, so it
-/// says nothing about the engine; others may hold it for a while.
-bool EngineRun::worthWaitingAfter(const Result<std::optional<Verdict>>& read, bool gone) {
-  if (abandoned_) return false;
+/// Why a wait for the list file may be in vain; empty while there is hope.
+std::string EngineRun::doubtWithoutListFile(bool gone) const {
+  const std::uint32_t now = tickCount();
+  if (gone && patience_.verdictOverdue(now)) {
+    return "The engine has ended without writing its list file:\n" + listFile_;
+  }
+  if (!gone && patience_.listFileOverdue(now)) {
+    return "The engine has not written its list file yet:\n" + listFile_;
+  }
+  return {};
+}
+
+/// The same after a reading that gave no verdict. A file that could not be read has not been
+/// searched, so it says nothing about the engine; others may hold it for a while.
+std::string EngineRun::doubtAfter(const Reading& read, bool gone) {
   const std::uint32_t now = tickCount();
   if (!read) {
-    return !patience_.listFileOverdue(now) ||
-           keepWaiting("The list file cannot be read:", reasonOf(read.error()));
+    if (!patience_.listFileOverdue(now)) return {};
+    return "The list file cannot be read:\n" + listFile_ + "\n\n" + reasonOf(read.error());
   }
   patience_.listFileWasRead(now);
-  return !gone || !patience_.verdictOverdue(now) ||
-         keepWaiting("The engine has ended without a verdict in its list file:");
+  if (!gone || !patience_.verdictOverdue(now)) return {};
+  return "The engine has ended without a verdict in its list file:\n" + listFile_;
 }
 
-bool EngineRun::keepWaiting(const std::string& what, const std::string& reason) {
+/// Leaves it to the user, where there is a doubt, whether the run goes on.
+bool EngineRun::keepWaitingOrAsk(const std::string& doubt) {
+  if (abandoned()) return false;
+  if (doubt.empty()) return true;
   const Answer answer = messageBox(
       &window_,
-      what + "\n" + listFile_ + (reason.empty() ? "" : "\n\n" + reason) +
-          "\n\nKeep waiting for it? \"Yes\" waits another 30 seconds, \"No\" ends the run.",
+      doubt + "\n\nKeep waiting for it? \"Yes\" waits another 30 seconds, \"No\" ends the run.",
       kWarningTitle, Buttons::kYesNo);
-  if (abandoned_) return false;
+  if (abandoned()) return false;
   patience_.extend(tickCount());
   if (answer == Answer::kNo) abandon();
   return answer == Answer::kYes;
 }
 
 void EngineRun::finish() {
-  over_ = true;
-  if (keepFiles_) return;
-  for (OwnFile* file : {&controlFile_, &batchFile_}) {
-    if (!std::exchange(file->written, false)) continue;
-    const Status removed = removeOwnFile(file->path);
+  phase_ = Phase::kOver;
+  for (const std::string& path : std::exchange(ownFiles_, {})) {
+    const Status removed = removeOwnFile(path);
     if (removed) continue;
     showFailure(&window_, "A file of the run could not be deleted:", removed.error(),
                 kLeftoverAdvice);
@@ -201,24 +218,16 @@ void EngineRun::finish() {
 }
 
 void EngineRun::abandon() {
-  abandoned_ = true;
+  stop_.request_stop();
   if (processes_) processes_->terminate();
-  if (keepFiles_) return;
   // What cannot be deleted at once is tried again, and reported, when the run's handler unwinds.
-  for (OwnFile* file : {&controlFile_, &batchFile_}) {
-    if (file->written && deleteFile(file->path)) file->written = false;
-  }
+  std::erase_if(ownFiles_, [](const std::string& path) { return deleteFile(path).ok(); });
 }
 
 /// Waits while events are handled; false when the run was abandoned meanwhile.
-bool EngineRun::wait(int milliseconds) {
-  WaitMilliseconds(static_cast<std::int16_t>(milliseconds), interrupted_);
-  return !abandoned_;
-}
-
-bool EngineRun::fail(const std::string& what, const Error& error, const std::string& advice) {
-  if (!abandoned_) showFailure(&window_, what, error, advice);
-  return false;
+bool EngineRun::wait(std::int16_t milliseconds) {
+  WaitMilliseconds(milliseconds, stop_.get_token());
+  return !abandoned();
 }
 
 }  // namespace korventally

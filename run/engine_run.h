@@ -1,13 +1,17 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
+#include <stop_token>
 #include <string>
+#include <vector>
 
 #include "case/basModule.h"
 #include "platform/label.h"
 #include "platform/process.h"
+#include "platform/result.h"
 #include "platform/window.h"
 #include "run/patience.h"
 #include "run/verdict.h"
@@ -33,8 +37,8 @@ class EngineRun {
   /// Waits, with the running animation, for the verdict in the list file. None when the user ended
   /// the run, or it was abandoned.
   std::optional<Verdict> waitForVerdict();
-  /// Whether the engine has started and its verdict is still to come.
-  bool awaitsVerdict() const { return processes_ != nullptr && !over_; }
+  /// Whether the engine has started and the run has not ended yet.
+  bool awaitsVerdict() const { return phase_ == Phase::kAwaitingVerdict; }
   /// Ends the run: deletes the control file and the batch file, unless debug mode keeps them.
   void finish();
   /// Ends the engine with every process that it started and deletes the run's own files, at once
@@ -42,11 +46,8 @@ class EngineRun {
   void abandon();
 
  private:
-  /// Paths as the run found them: the case may change before the run has unwound.
-  struct OwnFile {
-    std::string path;
-    bool written = false;
-  };
+  enum class Phase { kPreparing, kAwaitingVerdict, kOver };
+  using Reading = Result<std::optional<Verdict>>;
 
   bool checkEngine();
   bool checkCodePage();
@@ -54,26 +55,33 @@ class EngineRun {
   bool removeOldListFile();
   bool writeControlFile();
   bool writeBatchFile();
-  bool write(OwnFile& file, const std::string& what, const std::function<Status()>& operation);
-  bool wait(int milliseconds);
-  bool awaitListFile();
-  bool worthWaitingAfter(const Result<std::optional<Verdict>>& read, bool processesGone);
-  bool processesGone() const { return !processes_->running(); }
-  bool keepWaiting(const std::string& what, const std::string& reason = {});
+  bool write(const std::string& path, const std::string& what,
+             const std::function<Status()>& operation);
   bool fail(const std::string& what, const Error& error, const std::string& advice);
 
+  bool wait(std::int16_t milliseconds);
+  bool awaitListFile();
+  std::string doubtWithoutListFile(bool gone) const;
+  std::string doubtAfter(const Reading& read, bool gone);
+  bool keepWaitingOrAsk(const std::string& doubt);
+
+  bool processesGone() const { return !processes_->running(); }
+  bool abandoned() const { return stop_.stop_requested(); }
+
+  /// Paths as the run found them: the case may change before the run has unwound.
   const AnalysisCase& case_;
   const std::string listFile_;
+  const std::string controlFile_;
+  const std::string batchFile_;
   const bool keepFiles_;
-  OwnFile controlFile_;
-  OwnFile batchFile_;
   Window& window_;
   Label& lblRunning_;
+
+  Phase phase_ = Phase::kPreparing;
+  std::stop_source stop_;              ///< requested by `abandon`; every wait of the run ends then
+  std::vector<std::string> ownFiles_;  ///< written and still to be deleted
   std::unique_ptr<BatchRun> processes_;
-  Patience patience_{0};
-  bool over_ = false;
-  bool abandoned_ = false;
-  const std::function<bool()> interrupted_ = [this] { return abandoned_; };
+  Patience patience_;
 };
 
 }  // namespace korventally

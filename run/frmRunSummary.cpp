@@ -77,7 +77,7 @@ void frmRunSummary::cmdRUN_Click() {
   takeValuesBack();
   RunStatus.reset();
   lblStatus.setText("");
-  ++runs_;
+  opening_.request_stop();
   {
     EngineRun run(*this, lblRunning);
     const RunInProgress inProgress(*this, run);
@@ -123,10 +123,10 @@ void frmRunSummary::showOutcome() {
 
 /// "RUN" is usable again meanwhile: the list file of an earlier run is of no interest any more.
 void frmRunSummary::openListFile() {
-  const auto overtaken = [this, run = runs_] { return run != runs_; };
-  const Status opened = OpenFileInNotepad(theCase().WorkDir, theCase().ListFile,
-                                          [&] { return !isOpen() || overtaken(); });
-  if (opened || overtaken()) return;
+  opening_ = std::stop_source();
+  const Status opened =
+      OpenFileInNotepad(theCase().WorkDir, theCase().ListFile, opening_.get_token());
+  if (opened) return;
   showFailure(this, "The list file could not be opened in notepad:", opened.error(),
               "The run is not affected. Please open the list file yourself.");
 }
@@ -138,6 +138,7 @@ bool frmRunSummary::queryUnload() {
 }
 
 void frmRunSummary::Form_Unload() {
+  opening_.request_stop();
   if (run_ != nullptr && !RunStatus) run_->abandon();
 }
 

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <optional>
+#include <stop_token>
+
 #include "platform/button.h"
 #include "platform/check_box.h"
 #include "platform/label.h"
@@ -80,8 +83,8 @@ class frmRunSummary : public Window {
   void openListFile();
 
   EngineRun* run_ = nullptr;
-  int runs_ = 0;            ///< how many have been started here
-  bool focusLent_ = false;  ///< a run has moved the focus away from "RUN", and nobody else since
+  std::stop_source opening_;  ///< ends the opening of a list file that nobody waits for any more
+  bool focusLent_ = false;    ///< a run has moved the focus away from "RUN", and nobody else since
 };
 
 }  // namespace korventally

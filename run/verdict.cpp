@@ -54,14 +54,13 @@ std::optional<Verdict> VerdictScanner::verdictOfLine() const {
   return std::nullopt;
 }
 
-Result<std::optional<Verdict>> readVerdict(const std::string& path,
-                                           const std::function<bool()>& interrupted) {
+Result<std::optional<Verdict>> readVerdict(const std::string& path, const std::stop_token& stop) {
   auto file = openForReading(path);
   if (!file) return file.error();
   VerdictScanner scanner;
   std::vector<char> buffer(kChunk);
   std::uint32_t lastEvents = tickCount();
-  while (!interrupted()) {
+  while (!stop.stop_requested()) {
     const auto count = file.value()->read(buffer);
     if (!count) return count.error();
     if (count.value() == 0) return scanner.verdict();

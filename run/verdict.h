@@ -1,7 +1,7 @@
 #pragma once
 
-#include <functional>
 #include <optional>
+#include <stop_token>
 #include <string>
 #include <string_view>
 
@@ -36,8 +36,8 @@ class VerdictScanner {
 
 /// Reads a list file from its first byte to its last and returns its verdict, or none; an error
 /// when it could not be read to its end. Events are handled while a large file is read;
-/// `interrupted` ends the reading without a verdict.
+/// a request to `stop` ends the reading without a verdict.
 Result<std::optional<Verdict>> readVerdict(const std::string& path,
-                                           const std::function<bool()>& interrupted);
+                                           const std::stop_token& stop = {});
 
 }  // namespace korventally

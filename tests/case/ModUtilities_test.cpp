@@ -103,12 +103,14 @@ TEST(WaitMilliseconds, LastsAtLeastItsTimeAcrossEveryWrapOfTheTickCounter) {
   }
 }
 
-TEST(WaitMilliseconds, ReturnsWithoutYieldingForNoTimeOrWhenInterrupted) {
+TEST(WaitMilliseconds, ReturnsWithoutYieldingForNoTimeOrOnceStopped) {
   const Desktop desktop;
+  std::stop_source stopped;
+  stopped.request_stop();
   const std::uint32_t start = tickCount();
   WaitMilliseconds(0);
   WaitMilliseconds(-5);
-  WaitMilliseconds(500, [] { return true; });
+  WaitMilliseconds(500, stopped.get_token());
   EXPECT_EQ(tickCount(), start);
 }
 

@@ -164,6 +164,16 @@ TEST_F(RunSummary, ANewRunOvertakesTheEditorOfTheLastOne) {
   });
 }
 
+TEST_F(RunSummary, NoEditorOpensBehindAWindowThatWasClosed) {
+  inSummary([&](frmRunSummary& s) {
+    desktop.putFile(kStudy + "open_file.bat", "");
+    desktop.lockFile(kStudy + "open_file.bat", 5500);
+    desktop.at(5000, [&] { s.requestClose(); });
+    click(s.cmdRUN);
+  });
+  EXPECT_TRUE(desktop.filesInNotepad().empty());
+}
+
 TEST_F(RunSummary, OnePressStartsOneRun) {
   inSummary([&](frmRunSummary& s) {
     // While the first press still prepares its files, the button can be pressed again.
@@ -324,7 +334,8 @@ TEST_F(RunSummary, TextThatTheCodePageLacksCostsNothing) {
     desktop.putFile(list, "old");
     theCase.GroupConcFiles[2] = "C:\\\u0421\u0442\\a.con";
     expectError(
-        "This text holds characters that the system's code page lacks:\nC:\\\u0421\u0442\\a.con\n\n"
+        "This text contains characters that cannot be written in this system's code "
+        "page:\nC:\\\u0421\u0442\\a.con\n\n"
         "The engine could not read it. Please use another name for the file, folder or group.");
     click(s.cmdRUN);
     EXPECT_EQ(leftovers(), std::vector<std::string>{"korventally.lst"});

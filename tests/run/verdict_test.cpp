@@ -53,14 +53,14 @@ TEST(VerdictScanner, TakesTheLastWholeLineThatIsAVerdict) {
 TEST(ReadVerdict, NeedsAFileThatCanBeReadToItsEnd) {
   Desktop desktop;
   desktop.makeFolder("C:\\S\\");
-  const auto read = [](const std::string& path = "C:\\S\\a.lst") {
-    return readVerdict(path, [] { return false; });
-  };
+  const auto read = [](const std::string& path = "C:\\S\\a.lst") { return readVerdict(path); };
+  std::stop_source stopped;
+  stopped.request_stop();
   EXPECT_FALSE(read()) << "missing";
   EXPECT_FALSE(read("C:\\S\\")) << "a folder";
   desktop.putFile("C:\\S\\a.lst", std::string(600'000, '\n') + "RUN COMPLETED\n");
   EXPECT_EQ(read().value(), kCompleted);
-  EXPECT_EQ(readVerdict("C:\\S\\a.lst", [] { return true; }).value(), std::nullopt);
+  EXPECT_EQ(readVerdict("C:\\S\\a.lst", stopped.get_token()).value(), std::nullopt);
   desktop.failCall(Desktop::Operation::kRead, desktop.calls(Desktop::Operation::kRead) + 2,
                    {ErrorKind::kOther, 1117, "I/O error.", ""});
   EXPECT_FALSE(read()) << "breaks off";
