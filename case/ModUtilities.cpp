@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "case/failures.h"
+#include "case/run_files.h"
 #include "platform/dialogs.h"
 #include "platform/events.h"
 #include "platform/files.h"
@@ -120,7 +121,7 @@ void AnimateRunning(Label& label, const std::stop_token& stop) {
 Status OpenFileInNotepad(const std::string& directory, const std::string& fileName,
                          const std::stop_token& stop) {
   const std::string folder = joinPath(trimBlanks(directory), "");
-  const std::string batch = folder + "open_file.bat";
+  const std::string batch = folder + kEditorBatchFile;
   // An editor opened a moment ago has its batch file still in use.
   runNow(batch);
   const Status written = retryWhileBusy(

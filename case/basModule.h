@@ -12,6 +12,12 @@ inline constexpr std::size_t kGroupSlots = 51;
 inline constexpr std::int32_t kFixedGroups = 2;
 inline constexpr std::int32_t kMostOtherGroups = 48;
 
+/// The texts of area class and standard, in the case and on the screen.
+inline constexpr const char* kClassI = "Class I";
+inline constexpr const char* kClassII = "Class II";
+inline constexpr const char* kNaaqs = "NAAQS";
+inline constexpr const char* kPsd = "PSD";
+
 /// The regulatory case being prepared. Every step of the wizard fills its part, the run reads it.
 /// Values are text as the user typed it, up to the control file. Concentrations are in ug/m**3.
 struct AnalysisCase {

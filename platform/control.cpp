@@ -46,6 +46,18 @@ void Control::setText(std::string text) {
   changed(Aspect::kText);
 }
 
+void Control::setLabel(const Control& label, const Control* unit) {
+  label_ = &label;
+  unit_ = unit;
+}
+
+std::string Control::accessibleName() const {
+  if (label_ == nullptr) return accessibleName_;
+  std::string caption = label_->text();
+  if (caption.ends_with(':')) caption.pop_back();
+  return accessibleName_ + caption + (unit_ == nullptr ? "" : ", " + unit_->text());
+}
+
 void Control::changed(Aspect aspect) { window().controlChanged(*this, aspect); }
 
 void Control::raise(const std::function<void()>& handler) {

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 
 #include "platform/color.h"
 #include "platform/font.h"
@@ -60,9 +61,14 @@ class Control {
 
   const std::string& toolTip() const { return toolTip_; }
   void setToolTip(std::string text) { toolTip_ = std::move(text); }
-  /// What an assistive program reads where the caption is not enough; empty for "the caption".
-  const std::string& accessibleName() const { return accessibleName_; }
+  /// What an assistive program reads where the caption is not enough; empty for "the caption". It
+  /// is the given name, or what the label says without its colon, with the name in front of it and
+  /// the unit behind it.
+  std::string accessibleName() const;
   void setAccessibleName(std::string name) { accessibleName_ = std::move(name); }
+  /// The label or frame whose caption names this control, and the label that shows its unit. Both
+  /// stand in the same window; the name follows their captions.
+  void setLabel(const Control& label, const Control* unit = nullptr);
 
   std::function<void()> onClick;
   std::function<void()> onGotFocus;
@@ -89,6 +95,8 @@ class Control {
   bool visible_ = true;
   std::string toolTip_;
   std::string accessibleName_;
+  const Control* label_ = nullptr;
+  const Control* unit_ = nullptr;
 };
 
 }  // namespace korventally

@@ -19,7 +19,6 @@ struct Font {
 namespace fonts {
 inline constexpr Font kDefault{};
 inline constexpr Font kBold{"Arial", 8.25, true};
-inline constexpr Font kStepCaption{"Arial", 11.25, true};
 inline constexpr Font kArrow{"Symbol", 14.25, true};
 }  // namespace fonts
 

@@ -14,6 +14,15 @@ TextBox::TextBox(Container& container, Rect place, std::string text, int limit, 
   text_ = std::move(text);
 }
 
+void TextBox::setPlaceholder(std::string text) {
+  setText(text);
+  placeholder_ = std::move(text);
+}
+
+void TextBox::dropPlaceholder() {
+  if (text() == placeholder_) setText("");
+}
+
 bool TextBox::acceptsKey(std::int16_t keyCode) {
   raise([&] {
     if (onKeyPress) onKeyPress(keyCode);

@@ -19,6 +19,13 @@ class TextBox : public Control {
   int limit() const { return limit_; }
   bool isEmpty() const { return text().empty(); }
 
+  /// A text that shows what to type, until the user comes to the box: the box holds it now.
+  void setPlaceholder(std::string text);
+  /// Empties the box if it still shows its placeholder.
+  void dropPlaceholder();
+  /// Whether it holds a text other than its placeholder.
+  bool isFilledIn() const { return !isEmpty() && text() != placeholder_; }
+
   /// Sees every character before it reaches the box, with Enter as 13 and Backspace as 8; setting
   /// the code to 0 discards the keystroke.
   std::function<void(std::int16_t& keyCode)> onKeyPress;
@@ -39,6 +46,7 @@ class TextBox : public Control {
 
  private:
   int limit_;
+  std::string placeholder_;
   bool takesPath_ = false;
 };
 

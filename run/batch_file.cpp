@@ -1,6 +1,7 @@
 #include "run/batch_file.h"
 
 #include "case/ModUtilities.h"
+#include "case/run_files.h"
 #include "platform/process.h"
 #include "run/control_file.h"
 
@@ -8,9 +9,7 @@ namespace korventally {
 
 std::string enginePath() { return installationDirectory() + "\\korventally.exe"; }
 
-std::string batchFilePath(const AnalysisCase& theCase) {
-  return theCase.WorkDir + "run_korventally.bat";
-}
+std::string batchFilePath(const AnalysisCase& theCase) { return theCase.WorkDir + kBatchFile; }
 
 std::vector<std::string> batchFileLines(const AnalysisCase& theCase) {
   std::vector<std::string> lines{batchQuoted(enginePath()) + " " +

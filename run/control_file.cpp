@@ -1,5 +1,6 @@
 #include "run/control_file.h"
 
+#include "case/run_files.h"
 #include "platform/files.h"
 
 namespace korventally {
@@ -15,9 +16,7 @@ constexpr const char* kFixedZero = "0";
 
 }  // namespace
 
-std::string controlFilePath(const AnalysisCase& theCase) {
-  return theCase.WorkDir + "korventally.inp";
-}
+std::string controlFilePath(const AnalysisCase& theCase) { return theCase.WorkDir + kControlFile; }
 
 std::vector<std::string> controlFileValues(const AnalysisCase& theCase) {
   std::vector<std::string> values;

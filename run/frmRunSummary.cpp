@@ -28,13 +28,14 @@ frmRunSummary::frmRunSummary() : Window(" KORVENTALLY Run Information:", {6615, 
   cmdBack.onClick = [this] { cmdBack_Click(); };
   chkAutoOpen.onClick = [this] { focusLent_ = false; };
   chkAutoOpen.onLostFocus = [this] { focusLent_ = false; };
-  txtSpecies.setAccessibleName("Species");
-  txtAvePeriod.setAccessibleName("Averaging Period, hours");
-  txtSILLimit.setAccessibleName("SIL Limit, ug/m**3");
+  txtSpecies.setLabel(Label_);
+  txtAvePeriod.setLabel(Label1, &lblAvePeriod);
+  txtNAAQSPSDLimit.setLabel(lblNAAQSPSDLimit, &lblNAAQSPSDLimitValue);
+  txtSILLimit.setLabel(Label3, &lblSILLimitValue);
 }
 
 void frmRunSummary::Form_Load() {
-  const bool naaqs = theCase().Standard == "NAAQS";
+  const bool naaqs = theCase().Standard == kNaaqs;
   lblAnalysisType.setText(theCase().AreaClass + " " + theCase().Standard + "/SIL");
   txtSpecies.setText(theCase().Species);
   txtAvePeriod.setText(theCase().AveragingHours);
@@ -43,8 +44,6 @@ void frmRunSummary::Form_Load() {
   txtSILLimit.setText(theCase().SilLimit);
   lblSILLimitValue.setText(kUnit);
   lblNAAQSPSDLimit.setText(theCase().Standard + (naaqs ? " Standard:" : " Increment:"));
-  txtNAAQSPSDLimit.setAccessibleName(theCase().Standard + (naaqs ? " Standard" : " Increment") +
-                                     ", " + kUnit);
   lblAmbientBckg.setVisible(naaqs);
   lblAmbientConc.setVisible(naaqs);
   lblAmbientConc.setText(theCase().AmbientBackground + " " + kUnit);

@@ -1,8 +1,11 @@
 #include "wizard/frmKORVENTALLY.h"
 
 #include <algorithm>
+#include <ranges>
 
 #include "case/basModule.h"
+#include "limits/limits.h"
+#include "run/frmRunSummary.h"
 
 namespace korventally {
 namespace {
@@ -21,56 +24,43 @@ bool isInside(const Container& container, const Control& control) {
 }  // namespace
 
 frmKORVENTALLY::frmKORVENTALLY()
-    : Window(" KorvenTally [source contributions to a regulatory limit]", {13215, 10275}) {
+    : StepHost(" KorvenTally [source contributions to a regulatory limit]", {13215, 10275}) {
   setMenus({mnuFile, mnuHelp});
-  setTabOrder(forwardTabOrder());
+  setTabOrder(wholeTabOrder());
   cmdBackToTop.onClick = [this] { cmdBackToTop_Click(); };
+  cmdRUN.onClick = [this] { cmdRUN_Click(); };
   cmdCancel.onClick = [this] { cmdCancel_Click(); };
+  for (WizardStep* step : steps_ | std::views::drop(1)) {
+    DisableStep(step->controls(), step->fields());
+    step->closed(WizardStep::Way::kBack);
+  }
 }
 
-/// The forward path first, then the ways back, "Back to Top" last.
-std::vector<Control*> frmKORVENTALLY::forwardTabOrder() {
-  WorkingDirectoryStep& one = workingDirectory;
-  AnalysisTypeStep& two = analysisType;
-  SourceGroupsStep& three = sourceGroups;
-  ProcessingInfoStep& four = processingInfo;
-  OutputFileStep& five = outputFile;
-  // clang-format off
-  return {
-      &one.txtWorkDir, &one.cmdBrowseWorkDir, &one.cmdNext1,
-
-      &two.optClassI, &two.optClassII, &two.cmdNextArrow1,
-      &two.optNAAQS, &two.optPSD, &two.cmdNextArrow2,
-      &two.optSO2, &two.optPM10, &two.optNOX, &two.cmdNextArrow3,
-      &two.opt3hr, &two.opt24hr, &two.optAnnual,
-      &two.txtNumOfOthers, &two.cmdNext2,
-
-      &three.txtConcFile, &three.cmdBrowseFile, &three.txtGroupName, &three.txtAmbientBckg,
-      &three.cmdPrevGroup, &three.cmdNextGroup, &three.cmdNext3,
-
-      &four.txtReceptorDATFile, &four.cmdBrowseReceptorDAT,
-      &four.optReceptor_TOLVREN, &four.optReceptor_Generic,
-      &four.txtYear, &four.txtMonth, &four.txtDay, &four.txtHour, &four.txtRunLength,
-      &four.optRank1_Include, &four.optRank1_Exclude, &four.cmdNext4,
-
-      &cmdRUN, &cmdCancel, &five.txtLSTFilename, &five.cmdDefault_LST,
-
-      &five.cmdPrevious5, &four.cmdPrevious4, &three.cmdPrevious3, &two.cmdPrevious2,
-      &two.cmdBackArrow3, &two.cmdBackArrow2, &two.cmdBackArrow1,
-      &cmdBackToTop,
+/// The forward path first, with "RUN" and "Cancel" before the last step; then the ways back from
+/// the last step to the first; "Back to Top" last.
+std::vector<Control*> frmKORVENTALLY::wholeTabOrder() {
+  std::vector<Control*> order;
+  const auto append = [&](const std::vector<Control*>& stops) {
+    order.insert(order.end(), stops.begin(), stops.end());
   };
-  // clang-format on
+  for (WizardStep* step : steps_) {
+    if (step == steps_.back()) append({&cmdRUN, &cmdCancel});
+    append(step->tabStops());
+  }
+  for (WizardStep* step : steps_ | std::views::reverse) append(step->tabStopsBack());
+  append({&cmdBackToTop});
+  return order;
 }
 
 void frmKORVENTALLY::Form_Load() {
   const std::string defaultDirectory = initialiseCase();
-  if (!defaultDirectory.empty()) workingDirectory.txtWorkDir.setText(defaultDirectory);
+  if (!defaultDirectory.empty()) workingDirectory.setPath(defaultDirectory);
 }
 
 const std::string& frmKORVENTALLY::askForFile(const std::string& filter) {
   cdlBrowse.Filter = filter;
   cdlBrowse.FilterIndex = 1;
-  cdlBrowse.InitDir = workingDirectory.txtWorkDir.text();
+  cdlBrowse.InitDir = workingDirectory.path();
   cdlBrowse.FileName.clear();
   cdlBrowse.ShowOpen();
   return cdlBrowse.FileName;
@@ -84,11 +74,45 @@ void frmKORVENTALLY::mnuAboutKORVENTALLY_Click() { about_.show(this); }
 
 void frmKORVENTALLY::cmdCancel_Click() { unload(); }
 
+void frmKORVENTALLY::goForwardFrom(WizardStep& step) {
+  const auto at = std::find(steps_.begin(), steps_.end(), &step);
+  switchSteps(step, **std::next(at), WizardStep::Way::kForward);
+}
+
+void frmKORVENTALLY::goBackFrom(WizardStep& step) {
+  const auto at = std::find(steps_.begin(), steps_.end(), &step);
+  switchSteps(step, **std::prev(at), WizardStep::Way::kBack);
+}
+
 void frmKORVENTALLY::cmdBackToTop_Click() {
   WizardStep* step = openStep();
-  if (step == nullptr || step == &workingDirectory) return;
-  step->switchTo(workingDirectory);
-  if (step == &sourceGroups) sourceGroups.disablePagingButtons();
+  if (step == nullptr || step == steps_.front()) return;
+  switchSteps(*step, *steps_.front(), WizardStep::Way::kToTop);
+}
+
+void frmKORVENTALLY::switchSteps(WizardStep& from, WizardStep& to, WizardStep::Way way) {
+  SwitchStep(from.controls(), from.fields(), to.controls(), to.fields());
+  from.closed(way);
+  to.opened(way);
+}
+
+void frmKORVENTALLY::cmdRUN_Click() {
+  if (!CaptureCase()) return;
+  DeriveLimits(basModule::analysisCase);
+  frmRunSummary().show(this);
+}
+
+/// Every step adds its part to a copy, so that a step which refuses leaves the case as it was,
+/// but for the working directory.
+bool frmKORVENTALLY::CaptureCase() {
+  AnalysisCase& theCase = basModule::analysisCase;
+  workingDirectory.capture(theCase);
+  AnalysisCase captured = theCase;
+  for (WizardStep* step : steps_) {
+    if (!step->capture(captured)) return false;
+  }
+  theCase = captured;
+  return true;
 }
 
 WizardStep* frmKORVENTALLY::openStep() const {

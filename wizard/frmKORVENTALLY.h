@@ -1,24 +1,25 @@
 #pragma once
 
-#include <array>
+#include <string>
+#include <vector>
 
 #include "info/frmAboutKORVENTALLY.h"
 #include "info/frmKORVENTALLYHelp.h"
 #include "platform/dialogs.h"
 #include "platform/picture_box.h"
-#include "platform/window.h"
-#include "wizard/AnalysisTypeStep.h"
-#include "wizard/OutputFileStep.h"
-#include "wizard/ProcessingInfoStep.h"
-#include "wizard/SourceGroupsStep.h"
-#include "wizard/WorkingDirectoryStep.h"
+#include "wizard/analysis_type_step.h"
+#include "wizard/output_file_step.h"
+#include "wizard/processing_info_step.h"
+#include "wizard/source_groups_step.h"
+#include "wizard/step_host.h"
+#include "wizard/working_directory_step.h"
 
 namespace korventally {
 
 /// The wizard: five steps from top to bottom, of which one is open at a time, over a row of
 /// buttons. Each step opens the next once its input is good; "PREVIOUS" and "Back to Top" lead back
 /// without a check. Closing the window ends the program.
-class frmKORVENTALLY : public Window {
+class frmKORVENTALLY : public StepHost {
  public:
   frmKORVENTALLY();
 
@@ -37,7 +38,7 @@ class frmKORVENTALLY : public Window {
   AnalysisTypeStep analysisType{*this};
   SourceGroupsStep sourceGroups{*this};
   ProcessingInfoStep processingInfo{*this};
-  OutputFileStep outputFile{*this};
+  OutputFileStep outputFile{*this, cmdRUN};
 
   MenuEntry mnuExit{"E&xit", [this] { mnuExit_Click(); }};
   MenuEntry mnuKORVENTALLYHelp{"KORVENTALLY &Help", [this] { mnuKORVENTALLYHelp_Click(); }};
@@ -46,15 +47,17 @@ class frmKORVENTALLY : public Window {
   Menu mnuFile{"&File", {&mnuExit}};
   Menu mnuHelp{"&Help", {&mnuKORVENTALLYHelp, &mnuSeparator1, &mnuAboutKORVENTALLY}};
 
-  /// Shows the open-file dialog, starting in the working directory. Returns the chosen file's full
-  /// path, or the empty text when it was cancelled.
-  const std::string& askForFile(const std::string& filter);
+  void goForwardFrom(WizardStep& step) override;
+  void goBackFrom(WizardStep& step) override;
+  const std::string& askForFile(const std::string& filter) override;
 
   void mnuExit_Click();
   void mnuKORVENTALLYHelp_Click();
   void mnuAboutKORVENTALLY_Click();
   void cmdCancel_Click();
   void cmdBackToTop_Click();
+  /// The run request: captures the case, derives its limits and shows the run summary.
+  void cmdRUN_Click();
 
  protected:
   void Form_Load() override;
@@ -62,11 +65,14 @@ class frmKORVENTALLY : public Window {
   Control* preferredFocus() const override;
 
  private:
-  std::vector<Control*> forwardTabOrder();
+  std::vector<Control*> wholeTabOrder();
   WizardStep* openStep() const;
+  void switchSteps(WizardStep& from, WizardStep& to, WizardStep::Way way);
+  bool CaptureCase();
 
-  const std::array<WizardStep*, 5> steps_{&workingDirectory, &analysisType, &sourceGroups,
-                                          &processingInfo, &outputFile};
+  /// From the first to the last, in which "RUN" is pressed.
+  const std::vector<WizardStep*> steps_{&workingDirectory, &analysisType, &sourceGroups,
+                                        &processingInfo, &outputFile};
 
   frmAboutKORVENTALLY about_;
   frmKORVENTALLYHelp help_;

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "case/ModUtilities.h"
+#include "case/run_files.h"
 #include "platform/files.h"
 
 namespace korventally {
@@ -12,7 +13,6 @@ namespace {
 
 constexpr std::array kDevices = {"con", "prn", "aux", "nul", "conin$", "conout$", "clock$"};
 constexpr std::array kNumberedDevices = {"com", "lpt"};
-constexpr std::array kOwnFiles = {"korventally.inp", "run_korventally.bat", "open_file.bat"};
 
 /// ASCII only, as the names are that it is compared with.
 std::string lowerCase(std::string text) {

@@ -36,7 +36,8 @@ TEST_F(RunSummary, ShowsTheCase) {
     EXPECT_EQ(s.lblNAAQSPSDLimit.text(), "PSD Increment:");
     EXPECT_EQ(s.txtNAAQSPSDLimit.text() + s.lblNAAQSPSDLimitValue.text(), "91.0ug/m**3");
     EXPECT_EQ(s.txtSILLimit.text() + s.lblSILLimitValue.text(), "5.0ug/m**3");
-    EXPECT_EQ(s.txtSpecies.text() + s.txtAvePeriod.text(), "SO224");
+    EXPECT_EQ(s.txtSpecies.text(), "SO2");
+    EXPECT_EQ(s.txtAvePeriod.text(), "24");
     EXPECT_FALSE(s.lblAmbientBckg.visible());
     EXPECT_FALSE(s.lblAmbientConc.visible());
     EXPECT_EQ(s.lblRank1_YesNo.text(), "Included");

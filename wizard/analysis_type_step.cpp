@@ -1,11 +1,11 @@
-#include "wizard/AnalysisTypeStep.h"
+#include "wizard/analysis_type_step.h"
 
+#include <algorithm>
 #include <charconv>
 #include <optional>
 
 #include "case/basModule.h"
 #include "platform/dialogs.h"
-#include "wizard/frmKORVENTALLY.h"
 
 namespace korventally {
 namespace {
@@ -15,6 +15,21 @@ constexpr OleColor kIdle = colors::kButtonFace;
 
 void enable(const ControlGroup& group) { EnableStep(group, {}); }
 void disable(const ControlGroup& group) { DisableStep(group, {}); }
+
+/// The options of a sub-frame, which holds nothing else, in their order on the screen.
+template <typename Option>
+std::vector<Option*> optionsOf(const Frame& frame) {
+  std::vector<Option*> options;
+  for (Control* child : frame.children()) options.push_back(&dynamic_cast<Option&>(*child));
+  return options;
+}
+
+template <typename Option>
+const Option& selectedOf(const Frame& frame) {
+  const std::vector<Option*> options = optionsOf<Option>(frame);
+  return **std::find_if(options.begin(), options.end(),
+                        [](const Option* option) { return option->selected(); });
+}
 
 /// The number of OTHER groups that a text names; an empty text names none of them. No value when
 /// the text is no whole number from 0 to 48.
@@ -31,24 +46,23 @@ std::optional<std::int32_t> otherGroups(const std::string& typed) {
 
 }  // namespace
 
-AnalysisTypeStep::AnalysisTypeStep(frmKORVENTALLY& owner)
-    : WizardStep(owner),
-      frameAnalysisType(owner, {120, 1080, 11295, 1935},
-                        "SELECT THE TYPE OF ANALYSIS TO PERFORM:", fonts::kStepCaption,
-                        colors::kNavy),
-      Frame4(owner, {11640, 1080, 1455, 1935}) {
+AnalysisTypeStep::AnalysisTypeStep(StepHost& host) : WizardStep(host) {
   optNAAQS.setToolTip("National Ambient Air Quality Standards");
   optPSD.setToolTip("Prevention of Significant Deterioration");
-  cmdNextArrow1.setAccessibleName("next: STANDARD");
-  cmdBackArrow1.setAccessibleName("back: AREA");
-  cmdNextArrow2.setAccessibleName("next: SPECIES");
-  cmdBackArrow2.setAccessibleName("back: STANDARD");
-  cmdNextArrow3.setAccessibleName("next: AVERAGING PERIOD");
-  cmdBackArrow3.setAccessibleName("back: SPECIES");
-  txtNumOfOthers.setAccessibleName(lblNumOfOthers.text());
+  for (Button* arrow : {&cmdNextArrow1, &cmdNextArrow2, &cmdNextArrow3}) {
+    arrow->setAccessibleName("next: ");
+  }
+  for (Button* arrow : {&cmdBackArrow1, &cmdBackArrow2, &cmdBackArrow3}) {
+    arrow->setAccessibleName("back: ");
+  }
+  cmdNextArrow1.setLabel(frameEPAStandard);
+  cmdBackArrow1.setLabel(frameArea);
+  cmdNextArrow2.setLabel(frameSpecies);
+  cmdBackArrow2.setLabel(frameEPAStandard);
+  cmdNextArrow3.setLabel(frameAveragingPeriod);
+  cmdBackArrow3.setLabel(frameSpecies);
+  txtNumOfOthers.setLabel(lblNumOfOthers);
   bindHandlers();
-  DisableStep(AnalysisTypeControls, AnalysisTypeFields);
-  DisableAnalysisSubFrames();
 }
 
 void AnalysisTypeStep::bindHandlers() {
@@ -62,7 +76,28 @@ void AnalysisTypeStep::bindHandlers() {
   cmdNext2.onClick = [this] { cmdNext2_Click(); };
 }
 
-void AnalysisTypeStep::openArea() { enable(AreaControls); }
+std::vector<Control*> AnalysisTypeStep::tabStops() {
+  return {&optClassI,     &optClassII, &cmdNextArrow1, &optNAAQS,       &optPSD,
+          &cmdNextArrow2, &optSO2,     &optPM10,       &optNOX,         &cmdNextArrow3,
+          &opt3hr,        &opt24hr,    &optAnnual,     &txtNumOfOthers, &cmdNext2};
+}
+
+std::vector<Control*> AnalysisTypeStep::tabStopsBack() {
+  return {&cmdPrevious2, &cmdBackArrow3, &cmdBackArrow2, &cmdBackArrow1};
+}
+
+void AnalysisTypeStep::opened(Way way) {
+  enable(AreaControls);
+  if (way == Way::kForward) cmdNextArrow1.setBackColor(kPressNext);
+}
+
+/// "Back to Top" leaves the sub-frames as they are, to be found so again.
+void AnalysisTypeStep::closed(Way way) {
+  if (way == Way::kToTop) return;
+  DisableAnalysisSubFrames();
+  if (way == Way::kBack) return;
+  for (Button* arrow : {&cmdNextArrow1, &cmdNextArrow2, &cmdNextArrow3}) arrow->setBackColor(kIdle);
+}
 
 void AnalysisTypeStep::cmdNextArrow1_Click() {
   disable(AreaControls);
@@ -105,16 +140,26 @@ void AnalysisTypeStep::cmdBackArrow3_Click() {
   cmdNextArrow3.setBackColor(kPressNext);
 }
 
-/// PM10 has no 3-hour standard, and NOX has an annual one only.
+const Species& AnalysisTypeStep::species() const {
+  return selectedOf<SpeciesOption>(frameSpecies).species;
+}
+
+const AveragingPeriod& AnalysisTypeStep::period() const {
+  return selectedOf<PeriodOption>(frameAveragingPeriod).period;
+}
+
+/// Leaves the periods that the species has limits for. If the selected one goes, the shortest of
+/// the rest takes its place.
 void AnalysisTypeStep::applySpeciesRule() {
-  if (optPM10.selected()) {
-    DisableControl(opt3hr);
-    if (opt3hr.selected()) opt24hr.select();
-  } else if (optNOX.selected()) {
-    DisableControl(opt3hr);
-    DisableControl(opt24hr);
-    optAnnual.select();
+  std::vector<PeriodOption*> allowed;
+  for (PeriodOption* option : optionsOf<PeriodOption>(frameAveragingPeriod)) {
+    if (species().limitsFor(option->period) != nullptr) {
+      allowed.push_back(option);
+    } else {
+      DisableControl(*option);
+    }
   }
+  if (species().limitsFor(period()) == nullptr) allowed.front()->select();
 }
 
 void AnalysisTypeStep::DisableAnalysisSubFrames() {
@@ -124,18 +169,11 @@ void AnalysisTypeStep::DisableAnalysisSubFrames() {
   }
 }
 
-void AnalysisTypeStep::cmdPrevious2_Click() {
-  switchTo(wizard.workingDirectory);
-  DisableAnalysisSubFrames();
-}
+void AnalysisTypeStep::cmdPrevious2_Click() { wizard.goBackFrom(*this); }
 
 void AnalysisTypeStep::cmdNext2_Click() {
-  if (optPM10.selected() && opt3hr.selected()) {
-    messageBox(&wizard, "PM10 may not be selected with a 3 HOUR averaging period.", kErrorTitle);
-    return;
-  }
-  if (optNOX.selected() && !optAnnual.selected()) {
-    messageBox(&wizard, "NOX must be selected with an ANNUAL averaging period.", kErrorTitle);
+  if (species().limitsFor(period()) == nullptr) {
+    messageBox(&wizard, species().refusal, kErrorTitle);
     return;
   }
   const std::optional<std::int32_t> others = otherGroups(txtNumOfOthers.text());
@@ -145,11 +183,16 @@ void AnalysisTypeStep::cmdNext2_Click() {
   }
   // Not ClearFieldHighlight: an emptied box is right here, and must not stay marked.
   txtNumOfOthers.setBackColor(colors::kWhite);
-  switchTo(wizard.sourceGroups);
-  DisableAnalysisSubFrames();
   basModule::analysisCase.GroupCount = *others + kFixedGroups;
-  wizard.sourceGroups.OpenGroupPages();
-  for (Button* arrow : {&cmdNextArrow1, &cmdNextArrow2, &cmdNextArrow3}) arrow->setBackColor(kIdle);
+  wizard.goForwardFrom(*this);
+}
+
+bool AnalysisTypeStep::capture(AnalysisCase& into) {
+  into.AreaClass = optClassI.selected() ? kClassI : kClassII;
+  into.Standard = optNAAQS.selected() ? kNaaqs : kPsd;
+  into.Species = species().name;
+  into.AveragingHours = period().hours;
+  return true;
 }
 
 }  // namespace korventally

@@ -12,6 +12,11 @@ class SourceGroups : public StudyTest {
     return text.substr(lead.size());
   }
 
+  /// Only a graphical button shows its colour.
+  static bool isGreen(const Button& button) {
+    return button.style() == Button::Style::kGraphical && button.backColor() == colors::kGreen;
+  }
+
   /// Which of PREVIOUS GROUP, NEXT GROUP and NEXT can be used.
   static std::string paging(const frmKORVENTALLY& w) {
     std::string usable;
@@ -66,10 +71,11 @@ TEST_F(SourceGroups, PagesRunFromTheFirstGroupToTheLast) {
       EXPECT_EQ(caption(w), page.caption);
       EXPECT_EQ(paging(w), page.paging);
       const bool last = w.sourceGroups.CurrentGroup == 4;
-      EXPECT_EQ(w.sourceGroups.cmdNextGroup.backColor(),
-                last ? colors::kButtonFace : colors::kGreen);
-      for (const Control* control : w.sourceGroups.AmbientBackgroundControls) {
-        EXPECT_EQ(control->visible(), w.sourceGroups.CurrentGroup == 1);
+      EXPECT_EQ(isGreen(w.sourceGroups.cmdNextGroup), !last);
+      for (const Control* control : std::initializer_list<const Control*>{
+               &w.sourceGroups.lblAmbientBckg, &w.sourceGroups.lblugm3, &w.sourceGroups.lblNote3,
+               &w.sourceGroups.lblNote4, &w.sourceGroups.txtAmbientBckg}) {
+        EXPECT_EQ(control->visible(), w.sourceGroups.CurrentGroup == 1) << control->text();
       }
       if (!last) fillAndTurn(w);
     }
@@ -77,6 +83,7 @@ TEST_F(SourceGroups, PagesRunFromTheFirstGroupToTheLast) {
       click(w.sourceGroups.cmdPrevGroup);
       EXPECT_EQ(caption(w), pages[page - 1].caption);
       EXPECT_EQ(paging(w), pages[page - 1].paging);
+      EXPECT_TRUE(isGreen(w.sourceGroups.cmdNextGroup));
     }
     EXPECT_EQ(theCase.GroupConcFiles[4], "") << "stored without complaint on the way back";
     EXPECT_EQ(theCase.GroupConcFiles[3], kStudy + "g1.con");
@@ -114,6 +121,9 @@ TEST_F(SourceGroups, AConcentrationFileMustExist) {
       EXPECT_EQ(w.focused(), &step.txtConcFile);
       click(step.cmdPrevious3);
       EXPECT_EQ(step.txtConcFile.backColor(), colors::kButtonFace) << "no mark survives";
+      click(w.analysisType.cmdNext2);
+      fillAndTurn(w);
+      EXPECT_EQ(step.CurrentGroup, 2) << "nor does the refusal";
     });
   }
 }
@@ -137,6 +147,11 @@ TEST_F(SourceGroups, DefaultNamesMakeRoomForTyping) {
     EXPECT_EQ(theCase.GroupNames[3], "Mill");
     click(name);
     EXPECT_EQ(name.text(), "ALL") << "a name that is no default is left alone";
+    for (int page = 1; page < 3; ++page) fillAndTurn(w);
+    paste(name, "OTHER_2");
+    click(w.sourceGroups.txtConcFile);
+    click(name);
+    EXPECT_EQ(name.text(), "OTHER_2") << "nor is the default of another page";
   });
 }
 
@@ -168,7 +183,10 @@ TEST_F(SourceGroups, ThePageComesBackUnlessItsGroupIsGone) {
     EXPECT_EQ(caption(w), "\"OTHER\" #2 of 5:");
     EXPECT_EQ(file.text(), "unstored");
     EXPECT_EQ(paging(w), "110");
-    changeOthers(w, "1");
+    for (int page = 1; page <= 2; ++page) click(w.sourceGroups.cmdPrevGroup);
+    for (int page = 1; page <= 2; ++page) fillAndTurn(w);
+    // Its group would still be there, but it is another one when fewer are counted.
+    changeOthers(w, "4");
     EXPECT_EQ(caption(w), "\"ALL SOURCES\":");
     EXPECT_EQ(file.text(), kStudy + "g1.con");
     EXPECT_EQ(paging(w), "010");
@@ -183,7 +201,7 @@ TEST_F(SourceGroups, TheFacilityPageCanBecomeTheLast) {
     changeOthers(w, "0");
     EXPECT_EQ(caption(w), "\"FACILITY\":");
     EXPECT_EQ(paging(w), "101");
-    EXPECT_EQ(w.sourceGroups.cmdNextGroup.backColor(), colors::kGreen);
+    EXPECT_TRUE(isGreen(w.sourceGroups.cmdNextGroup));
   });
 }
 

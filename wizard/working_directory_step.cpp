@@ -1,18 +1,13 @@
-#include "wizard/WorkingDirectoryStep.h"
+#include "wizard/working_directory_step.h"
 
 #include "platform/files.h"
-#include "wizard/frmKORVENTALLY.h"
 #include "wizard/modBrowseFolder.h"
 
 namespace korventally {
 
-WorkingDirectoryStep::WorkingDirectoryStep(frmKORVENTALLY& owner)
-    : WizardStep(owner),
-      frameWorkingDirectory(owner, {120, 120, 11295, 855},
-                            "WORKING DIRECTORY:", fonts::kStepCaption, colors::kNavy),
-      Frame2(owner, {11640, 120, 1455, 855}) {
+WorkingDirectoryStep::WorkingDirectoryStep(StepHost& host) : WizardStep(host) {
   txtWorkDir.setTakesPath();
-  txtWorkDir.setAccessibleName("Working directory");
+  txtWorkDir.setLabel(frameWorkingDirectory);
   cmdBrowseWorkDir.onClick = [this] { cmdBrowseWorkDir_Click(); };
   txtWorkDir.onLostFocus = [this] { txtWorkDir_LostFocus(); };
   cmdNext1.onClick = [this] { cmdNext1_Click(); };
@@ -38,9 +33,12 @@ void WorkingDirectoryStep::cmdNext1_Click() {
     return refuse(txtWorkDir, "Selected Working Directory does not exist.");
   }
   ClearFieldHighlight(txtWorkDir);
-  switchTo(wizard.analysisType);
-  wizard.analysisType.openArea();
-  wizard.analysisType.cmdNextArrow1.setBackColor(colors::kGreen);
+  wizard.goForwardFrom(*this);
+}
+
+bool WorkingDirectoryStep::capture(AnalysisCase& into) {
+  into.WorkDir = path();
+  return true;
 }
 
 }  // namespace korventally

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "wizard/group_caption.h"
 #include "wizard/wizard_step.h"
@@ -12,9 +13,9 @@ namespace korventally {
 /// file and name, and on the first page the constant ambient background.
 class SourceGroupsStep : public WizardStep {
  public:
-  explicit SourceGroupsStep(frmKORVENTALLY& owner);
+  explicit SourceGroupsStep(StepHost& host);
 
-  Frame frameSourceGroupInfo;
+  StepFrame frameSourceGroupInfo{wizard, {120, 3120, 11295, 2655}, ""};
 
   Label lblConcFile{
       frameSourceGroupInfo, {240, 435, 1695, 255}, "Concentration File:", Align::kRight};
@@ -51,7 +52,7 @@ class SourceGroupsStep : public WizardStep {
                       fonts::kDefault,
                       Button::Style::kGraphical};
 
-  NavigationColumn Frame1;
+  NavigationColumn Frame1{wizard, {11640, 3120, 1455, 2655}};
   Button cmdPrevious3{Frame1, {240, 900, 1000, 315}, "PREVIOUS"};
   Button cmdNext3{Frame1, {240, 1440, 1000, 315}, "NEXT", fonts::kBold};
 
@@ -74,6 +75,11 @@ class SourceGroupsStep : public WizardStep {
   const ControlGroup& controls() const override { return SourceGroupInfoControls; }
   const FieldGroup& fields() const override { return SourceGroupInfoFields; }
   const Frame& frame() const override { return frameSourceGroupInfo; }
+  std::vector<Control*> tabStops() override;
+  std::vector<Control*> tabStopsBack() override { return {&cmdPrevious3}; }
+  void opened(Way way) override;
+  void closed(Way) override { disablePagingButtons(); }
+  bool capture(AnalysisCase& into) override;
 
   /// Slot of the page shown.
   std::int32_t CurrentGroup = 0;
@@ -84,28 +90,30 @@ class SourceGroupsStep : public WizardStep {
   /// Result of the last ValidateConcFile.
   bool ConcFileInvalid = false;
 
-  /// Shows the page to work on, once the number of groups is set, and opens the paging buttons.
-  void OpenGroupPages();
-  /// Opens the paging buttons of the page from which the step was left forward.
-  void reopenPagingButtons();
-  void disablePagingButtons();
-
   void cmdNextGroup_Click();
   void cmdPrevGroup_Click();
   void cmdNext3_Click();
   void cmdPrevious3_Click();
   void cmdBrowseFile_Click();
   void txtGroupName_GotFocus();
+  void txtConcFile_LostFocus();
+  void txtGroupName_LostFocus();
+  void txtAmbientBckg_LostFocus();
 
  private:
   void bindHandlers();
+  /// Shows the page to work on, once the number of groups is set, and opens the paging buttons.
+  void OpenGroupPages();
+  /// Opens the paging buttons of the page from which the step was left forward.
+  void reopenPagingButtons();
+  void disablePagingButtons();
   void ParseGroupCaption(const std::string& caption);
   void LoadGroupPage(std::int32_t slot);
   void StoreGroupPage(std::int32_t slot);
   void SetAmbientBackgroundVisible(std::int32_t slot);
   void ValidateConcFile();
   void refuseConcFile(const std::string& message);
-  void ShowConcFileDialog();
+  const std::string& ShowConcFileDialog();
 };
 
 }  // namespace korventally

@@ -19,6 +19,8 @@ class OutputFile : public StudyTest {
   }
   static constexpr const char* kOverwrite =
       "The selected output filename already exists. Do you wish to overwrite it?";
+  static constexpr const char* kInput =
+      "This case reads a file of this name, and a run would delete it. Please choose another name.";
 };
 
 TEST_F(OutputFile, CapturesTheWindowAsItStands) {
@@ -33,8 +35,10 @@ TEST_F(OutputFile, CapturesTheWindowAsItStands) {
   EXPECT_EQ(theCase.ReceptorFormat, "2");
   EXPECT_EQ(theCase.Rank1Flag, "F");
   EXPECT_EQ(theCase.ReceptorFile, kStudy + "recept.dat");
-  EXPECT_EQ(theCase.StartYear + theCase.StartMonth + theCase.StartDay + theCase.StartHour,
-            "2009010203");
+  EXPECT_EQ(theCase.StartYear, "2009");
+  EXPECT_EQ(theCase.StartMonth, "01");
+  EXPECT_EQ(theCase.StartDay, "02");
+  EXPECT_EQ(theCase.StartHour, "03");
   EXPECT_EQ(theCase.RunLength, "8760");
   EXPECT_EQ(theCase.StandardLimit, "1300.0");
   EXPECT_EQ(theCase.SilLimit, "1.0");
@@ -51,10 +55,13 @@ TEST_F(OutputFile, CapturesTheOtherChoiceOfEveryOption) {
     w.processingInfo.optRank1_Exclude.select();
     w.outputFile.txtLSTFilename.setText("  my list.lst ");
   });
-  EXPECT_EQ(theCase.AreaClass + theCase.Standard + theCase.Species, "Class IIPSDPM10");
+  EXPECT_EQ(theCase.AreaClass, "Class II");
+  EXPECT_EQ(theCase.Standard, "PSD");
+  EXPECT_EQ(theCase.Species, "PM10");
   EXPECT_EQ(theCase.AveragingHours, "24");
   EXPECT_EQ(theCase.AmbientBackground, " 12.5 ");
-  EXPECT_EQ(theCase.ReceptorFormat + theCase.Rank1Flag, "1T");
+  EXPECT_EQ(theCase.ReceptorFormat, "1");
+  EXPECT_EQ(theCase.Rank1Flag, "T");
   EXPECT_EQ(theCase.ListFile, "  my list.lst ");
   EXPECT_EQ(theCase.StandardLimit, "30.0");
   EXPECT_EQ(theCase.SilLimit, "5.0");
@@ -80,7 +87,8 @@ TEST_F(OutputFile, RefusesAPastedYearThatIsNoNumberOnTheAnnualPathOnly) {
     w.analysisType.optAnnual.select();
     expectError("The Year must be in the format YYYY.");
     click(w.cmdRUN);
-    EXPECT_EQ(theCase.WorkDir + theCase.ListFile, kStudy);
+    EXPECT_EQ(theCase.WorkDir, kStudy) << "taken before any check";
+    EXPECT_EQ(theCase.ListFile, "") << "and nothing else";
     EXPECT_TRUE(w.outputFile.isOpen());
     click(w.outputFile.cmdPrevious5);
     EXPECT_EQ(w.processingInfo.txtYear.backColor(), colors::kYellow);
@@ -138,41 +146,32 @@ TEST_F(OutputFile, ANewRunReplacesEditedLimits) {
 TEST_F(OutputFile, NameIsAPlainFileOfTheWorkingDirectoryThatNobodyElseUses) {
   const std::vector<std::string> inputs = {"C:/Study/.\\G1.con", "D:\\x\\other.con"};
   desktop.putFile(inputs[1], "");
-  for (const char* good : {"korventally.lst", "a b.lst", " lead.lst", "trail.lst ", "console.lst",
-                           "com10.lst", "nul1", "g2.con", "other.con", ".lst", "a%b!&.lst"}) {
-    EXPECT_EQ(objectionToListFile("C:\\Study\\", good, inputs), "") << good;
-  }
-  for (const char* bad : {"NUL",
-                          "nul.lst",
-                          "Aux .txt",
-                          "com1",
-                          "LPT9.lst",
-                          "COM\u00B9.lst",
-                          "con",
-                          "CONIN$",
-                          "a:b",
-                          "..\\a.lst",
-                          "a/b",
-                          "\\\\pc\\pipe\\x",
-                          "C:\\a.lst",
-                          "a*.lst",
-                          "?",
-                          "a\"b",
-                          "a<b",
-                          "a|b",
-                          "a\tb",
-                          "\x7F",
-                          "dot.",
-                          "dot. ",
-                          "   ",
-                          ".",
-                          "..",
-                          "KorvenTally.INP",
-                          "open_file.bat ",
-                          "run_korventally.bat",
-                          "g1.CON",
-                          "g1.con "}) {
-    EXPECT_NE(objectionToListFile("C:\\Study\\", bad, inputs), "") << bad;
+  const std::string plain =
+      "The list filename must be the name of a file in the working directory, without a path, "
+      "without any of \\ / : * ? \" < > | and without a dot at its end.";
+  const std::string device =
+      "The list filename is the name of a Windows device. Please choose another name.";
+  const std::string own =
+      "A run writes a file of its own under this name. Please choose another name.";
+  const struct {
+    std::string objection;
+    std::vector<std::string> names;
+  } rows[] = {
+      {"",
+       {"korventally.lst", "a b.lst", " lead.lst", "trail.lst ", "console.lst", "com10.lst", "nul1",
+        "g2.con", "other.con", ".lst", "a%b!&.lst"}},
+      {plain,
+       {"a:b", "..\\a.lst", "a/b", "\\\\pc\\pipe\\x", "C:\\a.lst", "a*.lst", "?", "a\"b", "a<b",
+        "a|b", "a\tb", "\x7F", "dot.", "dot. ", "   ", ".", ".."}},
+      {device,
+       {"NUL", "nul.lst", "Aux .txt", "com1", "LPT9.lst", "COM\u00B9.lst", "con", "CONIN$"}},
+      {own, {"KorvenTally.INP", "open_file.bat ", "run_korventally.bat"}},
+      {kInput, {"g1.CON", "g1.con "}},
+  };
+  for (const auto& row : rows) {
+    for (const std::string& name : row.names) {
+      EXPECT_EQ(objectionToListFile("C:\\Study\\", name, inputs), row.objection) << name;
+    }
   }
 }
 
@@ -181,9 +180,7 @@ TEST_F(OutputFile, ABadNameIsRefusedBeforeAnythingIsAsked) {
     walkToOutput(w);
     for (const char* name : {"recept.dat", "g1.con", "g2.con"}) {
       w.outputFile.txtLSTFilename.setText(name);
-      expectError(
-          "This case reads a file of this name, and a run would delete it. Please choose another "
-          "name.");
+      expectError(kInput);
       click(w.cmdRUN);
       EXPECT_EQ(w.outputFile.txtLSTFilename.backColor(), colors::kYellow);
       EXPECT_EQ(theCase.ListFile, "");

@@ -44,10 +44,8 @@ TEST_F(ProcessingInfo, ChecksItsBoxesInOrderOneAtATime) {
         EXPECT_EQ(field->backColor(), field == &row.box ? colors::kYellow : colors::kWhite);
       }
       EXPECT_EQ(w.focused(), &row.box);
-      EXPECT_EQ(row.box.text(), row.text);
-      if (row.text != "YYYY" && row.text != "MM") continue;
-      type(row.box, "20");
-      EXPECT_EQ(row.box.text(), "20") << "a placeholder makes room";
+      const bool placeholder = std::string("YYYY MM DD HH").find(row.text) != std::string::npos;
+      EXPECT_EQ(row.box.text(), placeholder ? "" : row.text) << "a placeholder makes room";
     }
     type(step.txtRunLength, "0");
     click(step.cmdNext4);

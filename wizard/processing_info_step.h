@@ -1,15 +1,28 @@
 #pragma once
 
+#include <cstdint>
+#include <string>
+#include <vector>
+
 #include "wizard/wizard_step.h"
 
 namespace korventally {
 
+/// A box for a part of the start time. Its placeholder shows how many digits it takes.
+class TimeBox : public TextBox {
+ public:
+  TimeBox(Container& frame, Rect place, const std::string& placeholder)
+      : TextBox(frame, place, "", static_cast<int>(placeholder.size())) {
+    setPlaceholder(placeholder);
+  }
+};
+
 /// Step 4: the receptors, the start time, the run length and the Rank 1 option.
 class ProcessingInfoStep : public WizardStep {
  public:
-  explicit ProcessingInfoStep(frmKORVENTALLY& owner);
+  explicit ProcessingInfoStep(StepHost& host);
 
-  Frame frameProcessingInfo;
+  StepFrame frameProcessingInfo{wizard, {120, 5880, 11295, 2535}, "PROCESSING INFORMATION:"};
 
   Frame frameReceptorDATFormat{
       frameProcessingInfo, {360, 325, 6615, 2070}, "File with Receptors to be Processed:"};
@@ -24,13 +37,13 @@ class ProcessingInfoStep : public WizardStep {
 
   Frame frameRunLength{frameProcessingInfo, {7080, 325, 3975, 1300}, "Start Time and Run Length:"};
   Label lblYear{frameRunLength, {120, 345, 495, 255}, "Year:", Align::kRight};
-  TextBox txtYear{frameRunLength, {670, 300, 615, 315}, "YYYY", 4};
+  TimeBox txtYear{frameRunLength, {670, 300, 615, 315}, "YYYY"};
   Label lblDay{frameRunLength, {1320, 345, 495, 255}, "Day:", Align::kRight};
-  TextBox txtDay{frameRunLength, {1870, 300, 615, 315}, "DD", 2};
+  TimeBox txtDay{frameRunLength, {1870, 300, 615, 315}, "DD"};
   Label lblMonth{frameRunLength, {120, 865, 495, 255}, "Month:", Align::kRight};
-  TextBox txtMonth{frameRunLength, {670, 820, 615, 315}, "MM", 2};
+  TimeBox txtMonth{frameRunLength, {670, 820, 615, 315}, "MM"};
   Label lblHour{frameRunLength, {1320, 865, 495, 255}, "Hour:", Align::kRight};
-  TextBox txtHour{frameRunLength, {1870, 820, 615, 315}, "HH", 2};
+  TimeBox txtHour{frameRunLength, {1870, 820, 615, 315}, "HH"};
   Line Line1{frameRunLength, {2615, 240, 0, 960}};
   Label lblRunLength{frameRunLength, {2760, 350, 975, 255}, "Run Length:"};
   TextBox txtRunLength{frameRunLength, {2760, 660, 615, 315}, "", 6};
@@ -40,7 +53,7 @@ class ProcessingInfoStep : public WizardStep {
   OptionButton optRank1_Include{frameRank1Values, {670, 320, 855, 210}, "Include", true};
   OptionButton optRank1_Exclude{frameRank1Values, {1870, 320, 975, 210}, "Exclude"};
 
-  NavigationColumn Frame6;
+  NavigationColumn Frame6{wizard, {11640, 5880, 1455, 2535}};
   Button cmdPrevious4{Frame6, {240, 840, 1000, 315}, "PREVIOUS"};
   Button cmdNext4{Frame6, {240, 1380, 1000, 315}, "NEXT", fonts::kBold};
 
@@ -68,16 +81,34 @@ class ProcessingInfoStep : public WizardStep {
   const ControlGroup& controls() const override { return ProcessingInfoControls; }
   const FieldGroup& fields() const override { return ProcessingInfoFields; }
   const Frame& frame() const override { return frameProcessingInfo; }
+  std::vector<Control*> tabStops() override;
+  std::vector<Control*> tabStopsBack() override { return {&cmdPrevious4}; }
+  /// An annual period gets the hours of its own year. Only then must the year be a number.
+  bool capture(AnalysisCase& into) override;
 
   void cmdBrowseReceptorDAT_Click();
   void cmdPrevious4_Click();
   void cmdNext4_Click();
+  void txtYear_GotFocus();
+  void txtMonth_GotFocus();
+  void txtDay_GotFocus();
+  void txtHour_GotFocus();
+  void txtMonth_LostFocus();
+  void txtDay_LostFocus();
+  void txtHour_LostFocus();
+  void txtYear_KeyPress(std::int16_t& keyCode);
+  void txtMonth_KeyPress(std::int16_t& keyCode);
+  void txtDay_KeyPress(std::int16_t& keyCode);
+  void txtHour_KeyPress(std::int16_t& keyCode);
+  void txtRunLength_KeyPress(std::int16_t& keyCode);
 
  private:
   void bindHandlers();
+  void takeDigitsOnly(std::int16_t& keyCode);
   bool checkReceptorFile();
   bool checkYear();
-  bool checkFilledIn(TextBox& box, const char* placeholder, const std::string& message);
+  bool checkFilledIn(TextBox& box, const std::string& message);
+  bool refuseAnnualYear();
 };
 
 }  // namespace korventally

@@ -59,6 +59,8 @@ TEST_F(AnalysisType, KeepsItsArrowColoursAsEachWayOutLeavesThem) {
     click(w.cmdBackToTop);
     click(w.workingDirectory.cmdNext1);
     EXPECT_EQ(state(w), "1100 gg-") << "two sub-frames after Back to Top";
+    click(step.cmdNextArrow2);
+    EXPECT_EQ(state(w), "1010 g-g");
     click(step.cmdNext2);
     EXPECT_EQ(state(w), "0000 ---");
     click(w.sourceGroups.cmdPrevious3);
@@ -98,19 +100,50 @@ TEST_F(AnalysisType, TheSpeciesLimitsTheAveragingPeriods) {
 }
 
 TEST_F(AnalysisType, RefusesForbiddenCombinationsWhateverSubFrameIsOpen) {
+  const std::string noPm10 = "PM10 may not be selected with a 3 HOUR averaging period.";
+  const std::string noNox = "NOX must be selected with an ANNUAL averaging period.";
   inWizard([&](frmKORVENTALLY& w) {
     AnalysisTypeStep& step = w.analysisType;
     walkToAnalysis(w);
-    step.optPM10.select();
-    paste(step.txtNumOfOthers, "nonsense");
-    expectError("PM10 may not be selected with a 3 HOUR averaging period.");
-    click(step.cmdNext2);
-    step.optNOX.select();
-    expectError("NOX must be selected with an ANNUAL averaging period.");
-    click(step.cmdNext2);
-    EXPECT_EQ(state(w), "1000 g--");
-    EXPECT_EQ(theCase.GroupCount, 0);
-    EXPECT_EQ(step.txtNumOfOthers.backColor(), colors::kWhite);
+    const struct {
+      OptionButton &species, &period;
+      std::string refusal;
+    } rows[] = {{step.optSO2, step.opt3hr, ""},    {step.optSO2, step.opt24hr, ""},
+                {step.optSO2, step.optAnnual, ""}, {step.optPM10, step.opt3hr, noPm10},
+                {step.optPM10, step.opt24hr, ""},  {step.optPM10, step.optAnnual, ""},
+                {step.optNOX, step.opt3hr, noNox}, {step.optNOX, step.opt24hr, noNox},
+                {step.optNOX, step.optAnnual, ""}};
+    for (const auto& row : rows) {
+      SCOPED_TRACE(row.species.text() + ' ' + row.period.text());
+      row.species.select();
+      row.period.select();
+      // The combination is refused first, whatever the number of groups.
+      paste(step.txtNumOfOthers, row.refusal.empty() ? "" : "nonsense");
+      if (!row.refusal.empty()) expectError(row.refusal);
+      theCase.GroupCount = 0;
+      click(step.cmdNext2);
+      EXPECT_EQ(w.sourceGroups.isOpen(), row.refusal.empty());
+      EXPECT_EQ(theCase.GroupCount, row.refusal.empty() ? 2 : 0);
+      EXPECT_NE(step.txtNumOfOthers.backColor(), colors::kYellow);
+      if (row.refusal.empty()) click(w.sourceGroups.cmdPrevious3);
+    }
+  });
+}
+
+TEST_F(AnalysisType, EverySpeciesOfTheTableHasItsOptionAndItsWords) {
+  inWizard([&](frmKORVENTALLY& w) {
+    const auto& options = w.analysisType.frameSpecies.children();
+    ASSERT_EQ(options.size(), kAllSpecies.size());
+    for (std::size_t i = 0; i < options.size(); ++i) {
+      const Species& species = *kAllSpecies.at(i);
+      EXPECT_EQ(options[i]->text(), species.name);
+      const bool everyPeriod = species.threeHours && species.day;
+      EXPECT_EQ(std::string(species.refusal).empty(), everyPeriod) << species.name;
+      static_cast<OptionButton*>(options[i])->select();
+      AnalysisCase captured;
+      w.analysisType.capture(captured);
+      EXPECT_EQ(captured.Species, species.name);
+    }
   });
 }
 

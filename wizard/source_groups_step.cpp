@@ -1,9 +1,8 @@
-#include "wizard/SourceGroupsStep.h"
+#include "wizard/source_groups_step.h"
 
 #include "case/basModule.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
-#include "wizard/frmKORVENTALLY.h"
 
 namespace korventally {
 namespace {
@@ -12,18 +11,13 @@ AnalysisCase& theCase() { return basModule::analysisCase; }
 
 }  // namespace
 
-SourceGroupsStep::SourceGroupsStep(frmKORVENTALLY& owner)
-    : WizardStep(owner),
-      frameSourceGroupInfo(owner, {120, 3120, 11295, 2655}, "", fonts::kStepCaption, colors::kNavy),
-      Frame1(owner, {11640, 3120, 1455, 2655}) {
+SourceGroupsStep::SourceGroupsStep(StepHost& host) : WizardStep(host) {
   SetGroupCaption(frameSourceGroupInfo, 1, kFixedGroups);
   txtConcFile.setTakesPath();
-  txtConcFile.setAccessibleName("Concentration File");
-  txtGroupName.setAccessibleName("Source Group Name");
-  txtAmbientBckg.setAccessibleName("Ambient Background, ug/m**3");
+  txtConcFile.setLabel(lblConcFile);
+  txtGroupName.setLabel(lblGroupName);
+  txtAmbientBckg.setLabel(lblAmbientBckg, &lblugm3);
   bindHandlers();
-  DisableStep(SourceGroupInfoControls, SourceGroupInfoFields);
-  disablePagingButtons();
 }
 
 void SourceGroupsStep::bindHandlers() {
@@ -33,8 +27,21 @@ void SourceGroupsStep::bindHandlers() {
   cmdPrevious3.onClick = [this] { cmdPrevious3_Click(); };
   cmdBrowseFile.onClick = [this] { cmdBrowseFile_Click(); };
   txtGroupName.onGotFocus = [this] { txtGroupName_GotFocus(); };
-  for (TextBox* box : SourceGroupInfoFields) {
-    box->onLostFocus = [box] { ClearFieldHighlight(*box); };
+  txtConcFile.onLostFocus = [this] { txtConcFile_LostFocus(); };
+  txtGroupName.onLostFocus = [this] { txtGroupName_LostFocus(); };
+  txtAmbientBckg.onLostFocus = [this] { txtAmbientBckg_LostFocus(); };
+}
+
+std::vector<Control*> SourceGroupsStep::tabStops() {
+  return {&txtConcFile,  &cmdBrowseFile, &txtGroupName, &txtAmbientBckg,
+          &cmdPrevGroup, &cmdNextGroup,  &cmdNext3};
+}
+
+void SourceGroupsStep::opened(Way way) {
+  if (way == Way::kForward) {
+    OpenGroupPages();
+  } else {
+    reopenPagingButtons();
   }
 }
 
@@ -137,26 +144,23 @@ void SourceGroupsStep::cmdNext3_Click() {
   ValidateConcFile();
   if (ConcFileInvalid) return;
   StoreGroupPage(CurrentGroup);
-  switchTo(wizard.processingInfo);
-  disablePagingButtons();
+  wizard.goForwardFrom(*this);
 }
 
 void SourceGroupsStep::cmdPrevious3_Click() {
   txtConcFile.setBackColor(colors::kWhite);
-  switchTo(wizard.analysisType);
-  disablePagingButtons();
-  wizard.analysisType.openArea();
+  wizard.goBackFrom(*this);
 }
 
 void SourceGroupsStep::cmdBrowseFile_Click() {
-  ShowConcFileDialog();
-  if (wizard.cdlBrowse.FileName.empty()) return;
-  txtConcFile.setText(wizard.cdlBrowse.FileName);
+  const std::string& chosen = ShowConcFileDialog();
+  if (chosen.empty()) return;
+  txtConcFile.setText(chosen);
   ClearFieldHighlight(txtConcFile);
 }
 
-void SourceGroupsStep::ShowConcFileDialog() {
-  wizard.askForFile(
+const std::string& SourceGroupsStep::ShowConcFileDialog() {
+  return wizard.askForFile(
       "Concentration File (*.con) | *.con; |"
       "Concentration File (*.dat) | *.dat; |"
       "All Files (*.*) | *.*");
@@ -168,6 +172,16 @@ void SourceGroupsStep::txtGroupName_GotFocus() {
   if (CurrentGroup == 1 && name == "ALL_SOURCES") txtGroupName.setText("ALL");
   if (CurrentGroup == 2 && name == "FACILITY") txtGroupName.setText("");
   if (CurrentGroup > 2 && name == defaultOtherName(CurrentGroup)) txtGroupName.setText("");
+}
+
+void SourceGroupsStep::txtConcFile_LostFocus() { ClearFieldHighlight(txtConcFile); }
+void SourceGroupsStep::txtGroupName_LostFocus() { ClearFieldHighlight(txtGroupName); }
+void SourceGroupsStep::txtAmbientBckg_LostFocus() { ClearFieldHighlight(txtAmbientBckg); }
+
+/// The tables of the groups are in the case already: fifty pages share one set of controls.
+bool SourceGroupsStep::capture(AnalysisCase& into) {
+  into.AmbientBackground = txtAmbientBckg.isEmpty() ? "0" : txtAmbientBckg.text();
+  return true;
 }
 
 }  // namespace korventally
