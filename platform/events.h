@@ -8,18 +8,18 @@ namespace korventally {
 /// Milliseconds since the system started; wraps round after 2^32.
 std::uint32_t tickCount();
 
-/// Handles everything that the person and the system have in store for the windows, and what is due
-/// of `runLater`, then hands the rest of the time slice to other processes. Handlers of any window
-/// may run inside.
+/// Handles everything that the user and Windows have in store for the windows, and what is due of
+/// `runLater`, then hands the rest of the time slice to other processes. Handlers of any window may
+/// run inside.
 void processPendingEvents();
 
 /// Handles events, sleeping in between, for as long as `goOn` says so. A request to quit closes
 /// every window.
 void runEventsWhile(const std::function<bool()>& goOn);
 
-/// Has `runDue` called `delay` milliseconds from now, also while a message box, a dialog or a menu
-/// of the system's is open, which handle events in a loop of their own. Takes the place of an
-/// earlier request.
+/// Has `runDue` called `delay` milliseconds from now, also while a message box, a dialog or a menu of
+/// Windows is open, which handle events in a loop of their own. Takes the place of an earlier
+/// request.
 void callRunDueIn(std::uint32_t delay);
 
 /// While one exists, this thread runs below normal priority, so that a busy wait does not cost the

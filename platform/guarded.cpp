@@ -1,6 +1,7 @@
 #include "platform/guarded.h"
 
 #include <exception>
+#include <new>
 #include <string>
 
 #include "platform/dialogs.h"
@@ -11,8 +12,11 @@ void runGuarded(Window* owner, const std::function<void()>& handler) {
   if (!handler) return;
   try {
     handler();
+  } catch (const std::bad_alloc&) {
+    messageBox(owner, "There is not enough memory to finish this.", kErrorTitle);
   } catch (const std::exception& failure) {
-    messageBox(owner, std::string("This could not be finished: ") + failure.what(), kErrorTitle);
+    messageBox(owner, std::string("KorvenTally ran into an internal error: ") + failure.what(),
+               kErrorTitle);
   }
 }
 

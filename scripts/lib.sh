@@ -210,7 +210,7 @@ drive_copy() { # folder, what to do: demo or gallery
     esac
   done < <(
     # The pipe outlives the driver, because Wine's own processes hold it too.
-    timeout 180 wine "$build/windows/demo/demo_driver.exe" "$2" "Z:$1" \
+    timeout 180 wine "$build/windows/driver/demo_driver.exe" "$2" "Z:$1" \
       2>"$logs/demo-driver.log" && ended=0 || ended=$?
     echo "driver-ended $ended"
   )

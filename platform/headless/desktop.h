@@ -119,10 +119,8 @@ class Desktop::Engine {
   /// The control file's path as the interpreter passed it, and its bytes at the start.
   virtual const std::string& controlFile() const = 0;
   virtual const std::string& controlBytes() const = 0;
-  /// The list file named by the control file's first line.
-  virtual std::string listFile() const = 0;
-  /// Writes a line to the list file (created if need be), `delay` milliseconds after the start.
-  virtual void writeLine(std::uint32_t delay, const std::string& line) = 0;
+  /// Adds a line to a file (created if need be), `delay` milliseconds after the start.
+  virtual void writeLine(std::uint32_t delay, const std::string& path, const std::string& line) = 0;
   /// Does anything else at that time.
   virtual void at(std::uint32_t delay, std::function<void()> action) = 0;
   /// Ends the process at that time; without it the engine runs for ever.

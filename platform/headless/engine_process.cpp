@@ -2,16 +2,12 @@
 
 #include <utility>
 
-#include "platform/files.h"
 #include "platform/headless/world.h"
 
 namespace korventally::headless {
 namespace {
 
 Desktop& desktop() { return Desktop::current(); }
-
-/// Every line of a control file starts with a prefix of this length.
-constexpr std::size_t kPrefix = 30;
 
 }  // namespace
 
@@ -21,13 +17,9 @@ EngineProcess::EngineProcess(std::string controlFile, std::function<void()> onEn
       onEnd_(std::move(onEnd)),
       start_(desktop().world().clock.time()) {}
 
-std::string EngineProcess::listFile() const {
-  const std::string line = controlBytes_.substr(0, controlBytes_.find("\r\n"));
-  return line.size() < kPrefix ? std::string() : fromAnsi(line.substr(kPrefix));
-}
-
-void EngineProcess::writeLine(std::uint32_t delay, const std::string& line) {
-  at(delay, [path = listFile(), line] { desktop().appendFile(path, line + "\r\n"); });
+void EngineProcess::writeLine(std::uint32_t delay, const std::string& path,
+                              const std::string& line) {
+  at(delay, [path, line] { desktop().appendFile(path, line + "\r\n"); });
 }
 
 void EngineProcess::at(std::uint32_t delay, std::function<void()> action) {

@@ -17,8 +17,7 @@ class EngineProcess : public Desktop::Engine, public std::enable_shared_from_thi
 
   const std::string& controlFile() const override { return controlFile_; }
   const std::string& controlBytes() const override { return controlBytes_; }
-  std::string listFile() const override;
-  void writeLine(std::uint32_t delay, const std::string& line) override;
+  void writeLine(std::uint32_t delay, const std::string& path, const std::string& line) override;
   void at(std::uint32_t delay, std::function<void()> action) override;
   void end(std::uint32_t delay) override;
 

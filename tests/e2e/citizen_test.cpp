@@ -2,10 +2,10 @@
 
 #include <vector>
 
-#include "demo/walk.h"
 #include "tests/e2e/installation.h"
+#include "tests/e2e/program_under_test.h"
 
-namespace korventally::demo {
+namespace korventally::driver {
 namespace {
 
 /// A string of the version resource, as Explorer shows it among a file's details.
@@ -32,7 +32,7 @@ TEST(Citizen, PastedPathsLoseTheirQuotes) {
   const TestFolder folder;
   const std::wstring file = folder.workDir() + L"a.con";
   writeFile(file, "any bytes");
-  const Program program;
+  const Program program{installation()};
   const Form wizard = program.wizard();
   const auto expectPasted = [&](std::string_view box, const std::wstring& path) {
     wizard.enter(box, L"replaced");
@@ -55,18 +55,18 @@ TEST(Citizen, ObjectsToTheEndOfTheSessionDuringARunAndLeavesNothing) {
   const Installation installation("never ends");
   const TestFolder study;
   const Program program(installation.path());
-  EXPECT_TRUE(program.agreesToSessionEnd());
+  EXPECT_TRUE(agreesToSessionEnd(program));
   walkShortCase(program, study);
   const Form summary = program.summary();
   summary.click("cmdRUN");
   const fs::path helper = installation.path() / "helper_lives";
   ASSERT_TRUE(waitUntil([&] { return fs::exists(helper); }));
-  EXPECT_FALSE(program.agreesToSessionEnd());
-  program.tellSessionEnd(false);  // the person has gone back to work
+  EXPECT_FALSE(agreesToSessionEnd(program));
+  tellSessionEnd(program, false);  // the person has gone back to work
   EXPECT_TRUE(fs::exists(study.path() / "korventally.inp"));
   EXPECT_FALSE(summary.usable("cmdRUN"));
 
-  program.tellSessionEnd(true);
+  tellSessionEnd(program, true);
   EXPECT_FALSE(fs::exists(study.path() / "korventally.inp"));
   EXPECT_FALSE(fs::exists(study.path() / "run_korventally.bat"));
   std::error_code refused;
@@ -74,4 +74,4 @@ TEST(Citizen, ObjectsToTheEndOfTheSessionDuringARunAndLeavesNothing) {
 }
 
 }  // namespace
-}  // namespace korventally::demo
+}  // namespace korventally::driver

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "demo/walk.h"
+#include "tests/e2e/program_under_test.h"
 
-namespace korventally::demo {
+namespace korventally::driver {
 namespace {
 
 constexpr int kFilterList = 0x470;  // cmb1 of the system's dialog
@@ -39,7 +39,7 @@ class Dialogs : public testing::Test {
 
   TestFolder folder;
   const std::wstring file = folder.workDir() + L"b.dat";
-  const Program program;
+  const Program program{installation()};
   const Form wizard = program.wizard();
 };
 
@@ -88,4 +88,4 @@ TEST_F(Dialogs, TheFolderBrowserBeginsAtTheFolderGiven) {
 }
 
 }  // namespace
-}  // namespace korventally::demo
+}  // namespace korventally::driver

@@ -1,8 +1,10 @@
 #pragma once
 
-#include "demo/program.h"
+#include <windows.h>
 
-namespace korventally::demo {
+#include "tests/e2e/test_folder.h"
+
+namespace korventally::driver {
 
 /// A copy of the installed program in a folder of its own, with an engine that behaves as it is
 /// told: see slow_engine.cpp.
@@ -28,4 +30,4 @@ class Installation {
   TestFolder folder_;
 };
 
-}  // namespace korventally::demo
+}  // namespace korventally::driver

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "demo/walk.h"
+#include "tests/e2e/program_under_test.h"
 
-namespace korventally::demo {
+namespace korventally::driver {
 namespace {
 
 /// Walks down the wizard and into every message on the way.
@@ -44,7 +44,7 @@ class Messages : public testing::Test {
 
   TestFolder folder;
   const std::wstring data = folder.workDir() + L"a.con";
-  const Program program;
+  const Program program{installation()};
   const Form wizard = program.wizard();
 };
 
@@ -114,4 +114,4 @@ TEST_F(Messages, ComeInOrderWithTheirTextsTitlesAndButtons) {
 }
 
 }  // namespace
-}  // namespace korventally::demo
+}  // namespace korventally::driver

@@ -1,9 +1,10 @@
 #include <gtest/gtest.h>
 
-#include "demo/walk.h"
+#include "tests/e2e/expected_layout.h"
 #include "tests/e2e/installation.h"
+#include "tests/e2e/program_under_test.h"
 
-namespace korventally::demo {
+namespace korventally::driver {
 namespace {
 
 constexpr const wchar_t* kOddName = L"a & b 5%x% ^(c)! d', e;=";
@@ -53,7 +54,7 @@ TEST_F(Run, DebugModeKeepsTheConsoleAndTheFiles) {
   const Installation installation;
   const Program program(installation.path());
   program.chooseMenu('H', 'A');
-  const Form about = program.about();
+  const Form about{program.windowNamed(L" About KORVENTALLY..."), kAbout};
   about.click("chkDebug");
   EXPECT_TRUE(waitUntil([&] { return about.checked("chkDebug"); }));
   about.click("cmdOK");
@@ -144,4 +145,4 @@ TEST_F(Run, AsksOnceWhenTheEngineEndsWithoutAWord) {
 }
 
 }  // namespace
-}  // namespace korventally::demo
+}  // namespace korventally::driver

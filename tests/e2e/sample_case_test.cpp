@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "demo/walk.h"
+#include "tests/e2e/program_under_test.h"
 
-namespace korventally::demo {
+namespace korventally::driver {
 namespace {
 
 /// The whole sample study in real windows, with the real engine, interpreter and editor.
@@ -55,7 +55,7 @@ class SampleCase : public testing::Test {
 };
 
 TEST_F(SampleCase, RunsToItsVerdictWithTheMouse) {
-  const Program program;
+  const Program program{installation()};
   walkWithMouse(program, study);
   const Form summary = program.summary();
   EXPECT_EQ(summary.text("lblAnalysisType"), L"Class II PSD/SIL");
@@ -72,7 +72,7 @@ TEST_F(SampleCase, RunsToItsVerdictWithTheMouse) {
 }
 
 TEST_F(SampleCase, RunsToItsVerdictWithTheKeyboardAlone) {
-  const Program program;
+  const Program program{installation()};
   walkWithKeyboard(program, study);
   const Form summary = program.summary();
   ASSERT_TRUE(waitUntil([&] { return summary.focused("cmdRUN"); }));
@@ -92,4 +92,4 @@ TEST_F(SampleCase, RunsToItsVerdictWithTheKeyboardAlone) {
 }
 
 }  // namespace
-}  // namespace korventally::demo
+}  // namespace korventally::driver

@@ -1,27 +1,40 @@
 #include <gtest/gtest.h>
 
+#include "driver/program.h"
+#include "tests/e2e/expected_layout.h"
 #include "tests/e2e/installation.h"
 
-namespace korventally::demo {
+namespace korventally::driver {
 namespace {
 
-void expectAsSketched(const Form& form, const Sketch& sketch) {
-  SCOPED_TRACE(sketch.name);
+void expectState(const Form& wizard, const Expected& expected) {
+  SCOPED_TRACE(expected.name);
   HWND control = nullptr;
-  ASSERT_NO_THROW(control = form.find(sketch)) << "not in its place";
-  EXPECT_EQ(textOf(control), sketch.text);
-  EXPECT_EQ(isUsable(control), sketch.usable);
-  EXPECT_EQ(ask(control, BM_GETCHECK) == BST_CHECKED && sketch.kind == L"button", sketch.checked);
-  if (sketch.kind != L"edit") return;
+  ASSERT_NO_THROW(control = wizard.find(expected.name)) << "not in its place";
+  EXPECT_EQ(textOf(control), expected.text);
+  EXPECT_EQ(isUsable(control), expected.usable);
+  if (classOf(control) == L"button") {
+    EXPECT_EQ(ask(control, BM_GETCHECK) == BST_CHECKED, expected.checked);
+  }
+  if (classOf(control) != L"edit") return;
   constexpr LRESULT kAnyNumber = 30000;
   const LRESULT limit = ask(control, EM_GETLIMITTEXT);
-  EXPECT_TRUE(sketch.limit != 0 ? limit == sketch.limit : limit >= kAnyNumber) << limit;
+  EXPECT_TRUE(expected.limit != 0 ? limit == expected.limit : limit >= kAnyNumber) << limit;
+}
+
+void expectThere(const Form& wizard, const ExpectedThere& expected) {
+  SCOPED_TRACE(expected.sketch.name);
+  HWND control = nullptr;
+  ASSERT_NO_THROW(control = wizard.find(expected.sketch)) << "not in its place";
+  EXPECT_EQ(textOf(control), expected.text);
+  EXPECT_EQ(isUsable(control), expected.usable);
 }
 
 TEST(Start, ShowsEveryControlInItsPlaceAndState) {
-  const Program program;
+  const Program program{installation()};
   const Form wizard = program.wizard();
-  for (const Sketch& sketch : kWizard) expectAsSketched(wizard, sketch);
+  for (const Expected& expected : kExpectedControls) expectState(wizard, expected);
+  for (const ExpectedThere& expected : kExpectedThere) expectThere(wizard, expected);
   RECT client;
   GetClientRect(wizard.window(), &client);
   EXPECT_EQ(client.right, 881);
@@ -29,7 +42,7 @@ TEST(Start, ShowsEveryControlInItsPlaceAndState) {
 }
 
 TEST(Start, TabGoesRoundWhatCanBeUsed) {
-  const Program program;
+  const Program program{installation()};
   const Form wizard = program.wizard();
   ASSERT_TRUE(waitUntil([&] { return wizard.focused("txtWorkDir"); }));
   for (const char* next :
@@ -49,4 +62,4 @@ TEST(Start, OffersTheFolderOfTheConfigurationFileAndEndsByItsMenu) {
 }
 
 }  // namespace
-}  // namespace korventally::demo
+}  // namespace korventally::driver

@@ -1,7 +1,15 @@
 #include "tests/study.h"
 
+#include "platform/files.h"
+
 namespace korventally::testing {
 namespace {
+
+/// The first line of a control file names the list file, behind 30 characters.
+std::string listFileOf(const Desktop::Engine& engine) {
+  const std::string line = engine.controlBytes().substr(0, engine.controlBytes().find("\r\n"));
+  return line.size() < 30 ? std::string() : fromAnsi(line.substr(30));
+}
 
 bool isInput(const std::string& name) { return name.ends_with(".con") || name == "recept.dat"; }
 
@@ -23,7 +31,7 @@ Study::Study() {
 void Study::engineWrites(std::vector<std::pair<std::uint32_t, std::string>> lines,
                          std::uint32_t endsAt) {
   desktop.setEngine([lines, endsAt](Desktop::Engine& engine) {
-    for (const auto& [when, line] : lines) engine.writeLine(when, line);
+    for (const auto& [when, line] : lines) engine.writeLine(when, listFileOf(engine), line);
     if (endsAt > 0) engine.end(endsAt);
   });
 }

@@ -87,10 +87,10 @@ TEST_F(SimulatedDesktop, TellsOfCommandsThatWereNeverMeant) {
 
 TEST_F(SimulatedDesktop, RunsTheScriptedEngineUntilItEndsOrIsTerminated) {
   desktop->putFile("C:\\Prog\\korventally.exe", "");
-  desktop->putFile("C:\\Study\\x.inp", std::string(29, ' ') + ":C:\\Study\\\xE9.lst\r\nmore");
+  desktop->putFile("C:\\Study\\x.inp", "control");
   desktop->setEngine([](Desktop::Engine& engine) {
-    engine.writeLine(100, "first");
-    engine.writeLine(200, "last");
+    engine.writeLine(100, "C:\\Study\\é.lst", "first");
+    engine.writeLine(200, "C:\\Study\\é.lst", "last");
     engine.end(300);
   });
   const std::string line = "\"c:\\prog\\KORVENTALLY.EXE\" \"C:\\Study\\x.inp\"";

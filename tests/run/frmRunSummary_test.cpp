@@ -109,7 +109,7 @@ TEST_F(RunSummary, HandsTheEngineTheControlFileOfTheCase) {
   desktop.setEngine([&](Desktop::Engine& engine) {
     path = engine.controlFile();
     bytes = engine.controlBytes();
-    engine.writeLine(10, "RUN FAILED");
+    engine.writeLine(10, list, "RUN FAILED");
   });
   inSummary([&](frmRunSummary& s) {
     s.chkAutoOpen.setChecked(false);
@@ -275,7 +275,7 @@ TEST_F(RunSummary, TakesAVerdictWrittenJustBeforeTheEngineEnds) {
 
 TEST_F(RunSummary, ALockedListFileSaysNothingAboutTheEngine) {
   desktop.setEngine([&](Desktop::Engine& engine) {
-    engine.writeLine(100, "RUN COMPLETED");
+    engine.writeLine(100, list, "RUN COMPLETED");
     engine.at(101, [&] { desktop.lockFile(list, 5000); });
     engine.end(102);
   });
@@ -287,7 +287,7 @@ TEST_F(RunSummary, ALockedListFileSaysNothingAboutTheEngine) {
 
 TEST_F(RunSummary, AsksWhenTheListFileStaysUnreadable) {
   desktop.setEngine([&](Desktop::Engine& engine) {
-    engine.writeLine(100, "RUN COMPLETED");
+    engine.writeLine(100, list, "RUN COMPLETED");
     engine.at(101, [&] { desktop.lockFile(list, 100'000); });
   });
   inSummary([&](frmRunSummary& s) {
@@ -306,9 +306,9 @@ TEST_F(RunSummary, AsksWhenTheListFileStaysUnreadable) {
 
 TEST_F(RunSummary, AListFileThatIsMadeAnewIsNoReasonToAsk) {
   desktop.setEngine([&](Desktop::Engine& engine) {
-    engine.writeLine(100, "first");
+    engine.writeLine(100, list, "first");
     engine.at(35'000, [&] { desktop.removeFile(list); });
-    engine.writeLine(39'000, "RUN COMPLETED");
+    engine.writeLine(39'000, list, "RUN COMPLETED");
   });
   inSummary([&](frmRunSummary& s) {
     click(s.cmdRUN);
@@ -374,7 +374,7 @@ TEST_F(RunSummary, AnExceptionLeavesAUsableWindowAndNothingElse) {
   engineWrites({{100, "at it"}}, 0);
   inSummary([&](frmRunSummary& s) {
     desktop.at(2000, [] { throw std::bad_alloc(); });
-    expectError("This could not be finished: std::bad_alloc");
+    expectError("There is not enough memory to finish this.");
     click(s.cmdRUN);
     expectIdle(s, "");
     EXPECT_FALSE(desktop.enginesRunning());

@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-#include "demo/input.h"
+#include "driver/input.h"
 #include "platform/events.h"
 #include "platform/win32/system/text.h"
 #include "platform/win32/ui/native_lookup.h"
@@ -108,7 +108,7 @@ void paste(TextBox& box, const std::string& text) {
   if (!focusOn(edit)) return;
   SendMessageW(edit, EM_SETSEL, 0, -1);
   if (text.empty()) return post(edit, WM_CLEAR, 0, 0);
-  demo::copyText(win32::toWide(text));
+  driver::copyText(win32::toWide(text));
   post(edit, WM_PASTE, 0, 0);
 }
 

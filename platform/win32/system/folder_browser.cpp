@@ -19,20 +19,6 @@ namespace {
 
 using win32::toWide;
 
-/// The browser's newer style needs the apartment of its thread. Each showing asks for its own.
-class Apartment {
- public:
-  Apartment() : entered_(SUCCEEDED(OleInitialize(nullptr))) {}
-  Apartment(const Apartment&) = delete;
-  Apartment& operator=(const Apartment&) = delete;
-  ~Apartment() {
-    if (entered_) OleUninitialize();
-  }
-
- private:
-  bool entered_;
-};
-
 HWND handleOf(const Window* owner) {
   return owner == nullptr ? nullptr : win32::nativeHandle(*owner);
 }
@@ -73,7 +59,6 @@ int CALLBACK callBack(HWND dialog, UINT message, LPARAM parameter, LPARAM contex
 }  // namespace
 
 ItemIdList shBrowseForFolder(const BrowseInfo& info) {
-  const Apartment apartment;
   const std::wstring title = toWide(info.title);
   wchar_t displayName[kMaxPath] = L"";
   BROWSEINFOW browse{};

@@ -45,6 +45,8 @@ class MessagePump {
   std::optional<int> quit_;
 };
 
+/// What is due is run by this timer alone: every loop that handles messages hands them to it, those
+/// of message boxes, dialogs and menus too.
 UINT_PTR dueTimer = 0;
 
 void CALLBACK timerWentOff(HWND, UINT, UINT_PTR, DWORD) {
@@ -60,7 +62,6 @@ std::uint32_t tickCount() { return GetTickCount(); }
 void processPendingEvents() {
   {
     MessagePump pump;
-    runDue();
     for (int count = 0; count < kMostAtOnce && pump.handleNext(); ++count) continue;
   }
   SwitchToThread();
@@ -69,8 +70,6 @@ void processPendingEvents() {
 void runEventsWhile(const std::function<bool()>& goOn) {
   MessagePump pump;
   while (goOn()) {
-    runDue();
-    if (!goOn()) return;
     // A message that another program has sent is handled while this one looks for the next, which
     // then may be none: so the condition is asked once more.
     if (!pump.handleNext() && goOn()) WaitMessage();

@@ -1,15 +1,17 @@
-#include "demo/form.h"
+#include "driver/forms.h"
 
 #include <algorithm>
 #include <array>
 #include <stdexcept>
 
-namespace korventally::demo {
+namespace korventally::driver {
 namespace {
 
 constexpr int kTwipsPerInch = 1440;
 constexpr std::array kColumnTops = {120, 1080, 3120, 5880, 8520};
 constexpr int kColumnLeft = 11640;
+constexpr std::wstring_view kFirstFrame = L"WORKING DIRECTORY:";
+constexpr POINT kFirstFramePlace{120, 120};
 
 int dotsPerInch() {
   const HDC screen = GetDC(nullptr);
@@ -103,13 +105,12 @@ HWND focusIn(HWND window) {
   return info.hwndFocus;
 }
 
-/// Where the window's top left corner has been scrolled to; its first frame tells.
+/// Where the window's top left corner has been scrolled to; the wizard's first frame tells.
 POINT Form::origin() const {
-  const Sketch& first = sketches_.front();
-  HWND window = captionedFrame(window_, first.text);
+  HWND window = captionedFrame(window_, kFirstFrame);
   if (window == nullptr) return {0, 0};
   const RECT place = placeInParent(window);
-  return {place.left - pixels(first.at.left), place.top - pixels(first.at.top)};
+  return {place.left - pixels(kFirstFramePlace.x), place.top - pixels(kFirstFramePlace.y)};
 }
 
 HWND Form::frame(std::wstring_view name) const {
@@ -172,4 +173,4 @@ void Form::retype(std::string_view name, const std::wstring& text) const {
   expectSoon([&] { return this->text(name) == text; }, std::string(name) + " shows what was typed");
 }
 
-}  // namespace korventally::demo
+}  // namespace korventally::driver

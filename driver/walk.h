@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
-#include "demo/program.h"
+#include "driver/program.h"
 
-namespace korventally::demo {
+namespace korventally::driver {
 
 /// What a person enters for the sample study, as samples/README.md tells.
 struct Study {
@@ -25,7 +25,4 @@ inline void nobody(int, const std::string&) {}
 void walkWithMouse(const Program& program, const Study& study, const Observer& observe = nobody);
 void walkWithKeyboard(const Program& program, const Study& study, const Observer& observe = nobody);
 
-/// The shortest case, two groups with all options as they are, to the open run summary.
-void walkShortCase(const Program& program, const TestFolder& study);
-
-}  // namespace korventally::demo
+}  // namespace korventally::driver

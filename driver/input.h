@@ -6,7 +6,7 @@
 
 #include "platform/win32/ui/system_headers.h"
 
-namespace korventally::demo {
+namespace korventally::driver {
 
 using namespace std::chrono_literals;
 
@@ -26,4 +26,4 @@ void typeText(const std::wstring& text);
 /// Puts text on the clipboard, as "Copy" does in another program.
 void copyText(const std::wstring& text);
 
-}  // namespace korventally::demo
+}  // namespace korventally::driver

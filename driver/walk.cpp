@@ -1,6 +1,6 @@
-#include "demo/walk.h"
+#include "driver/walk.h"
 
-namespace korventally::demo {
+namespace korventally::driver {
 namespace {
 
 /// What a person does in a form, by one of two means.
@@ -116,18 +116,4 @@ void walkWithKeyboard(const Program& program, const Study& study, const Observer
   walk(program, Keyboard(program.wizard()), study, observe);
 }
 
-void walkShortCase(const Program& program, const TestFolder& folder) {
-  const Mouse hand(program.wizard());
-  const std::wstring data = folder.workDir() + L"a.con";
-  if (!fs::exists(data)) writeFile(data, "any bytes");
-  hand.fill("txtWorkDir", folder.workDir());
-  next(hand, "cmdNext1", "frameAnalysisType");
-  next(hand, "cmdNext2", "frameSourceGroupInfo");
-  fillGroups(hand, {folder.workDir(), {L"a.con", L"a.con"}}, nobody);
-  next(hand, "cmdNext3", "frameProcessingInfo");
-  fillProcessing(hand, {.workDir = folder.workDir(), .receptors = L"a.con"});
-  next(hand, "cmdNext4", "frameOutputFile");
-  hand.press("cmdRUN");
-}
-
-}  // namespace korventally::demo
+}  // namespace korventally::driver

@@ -4,9 +4,9 @@
 #include <cstdio>
 #include <exception>
 
-#include "demo/walk.h"
+#include "driver/walk.h"
 
-namespace korventally::demo {
+namespace korventally::driver {
 namespace {
 
 /// What a window has painted comes to the screen a little later.
@@ -109,10 +109,10 @@ bool drive(const std::wstring& what, const fs::path& folder) {
 }
 
 }  // namespace
-}  // namespace korventally::demo
+}  // namespace korventally::driver
 
 int wmain(int count, wchar_t** arguments) {
-  using namespace korventally::demo;
+  using namespace korventally::driver;
   if (count != 3) return 2;
   SetProcessDPIAware();
   try {

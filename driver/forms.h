@@ -4,32 +4,27 @@
 #include <string>
 #include <string_view>
 
-#include "demo/input.h"
+#include "driver/input.h"
 #include "platform/win32/ui/system_headers.h"
 
-namespace korventally::demo {
+namespace korventally::driver {
 
 /// A place in twentieths of a point, fifteen to the pixel at 96 dots per inch.
 struct Twips {
   int left, top, width, height;
 };
 
-/// What a person sees of a control when its window opens. Frames are named by their captions'
-/// beginnings, those without a caption by "column" and the number of their step.
+/// Where a control stands that the driver uses. Frames are named by their captions' beginnings,
+/// those without a caption by "column" and the number of their step.
 struct Sketch {
   std::string_view name;
   std::wstring_view kind;  ///< the window class
   std::wstring_view frame;
   Twips at;
-  std::wstring_view text;
-  bool usable = false;
-  bool checked = false;
-  int limit = 0;  ///< characters that can be typed; 0 for any number
 };
 
 extern const std::span<const Sketch> kWizard;
 extern const std::span<const Sketch> kSummary;
-extern const std::span<const Sketch> kAbout;
 
 /// Reads of any window, also while its program waits for something.
 std::wstring textOf(HWND window);
@@ -72,4 +67,4 @@ class Form {
   std::span<const Sketch> sketches_;
 };
 
-}  // namespace korventally::demo
+}  // namespace korventally::driver

@@ -1,9 +1,9 @@
-#include "demo/input.h"
+#include "driver/input.h"
 
 #include <stdexcept>
 #include <vector>
 
-namespace korventally::demo {
+namespace korventally::driver {
 namespace {
 
 constexpr auto kPause = 10ms;
@@ -104,4 +104,4 @@ void copyText(const std::wstring& text) {
   CloseClipboard();
 }
 
-}  // namespace korventally::demo
+}  // namespace korventally::driver
