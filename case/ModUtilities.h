@@ -63,7 +63,7 @@ Status OpenFileInNotepad(const std::string& directory, const std::string& fileNa
 /// Text without its leading and trailing blanks (character 32 only).
 std::string trimBlanks(std::string_view text);
 
-/// Characters of a text, as a person counts them when typing.
+/// Characters of a text, as a user counts them when typing.
 std::size_t characterCount(std::string_view text);
 
 /// A file of a folder that is named with or without its final backslash.

@@ -17,11 +17,11 @@ Status retryWhileBusy(const std::function<Status()>& operation, const std::stop_
 /// Deletes one of the program's own files, with retries. One that is gone already is as good.
 Status removeOwnFile(const std::string& path, const std::stop_token& stop = {});
 
-/// The system's reason with its number.
+/// Windows' reason with its number.
 std::string reasonOf(const Error& error);
 
 /// Says in a message box, as long as there is time for one, what failed, on which file, the
-/// system's reason and what to do about it.
+/// Windows' reason and what to do about it.
 void showFailure(Window* owner, const std::string& what, const Error& error,
                  const std::string& advice);
 

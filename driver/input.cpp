@@ -36,7 +36,7 @@ void send(std::vector<INPUT> inputs) {
 /// The mouse moves in 65536ths of the screen; this is the middle of a pixel.
 LONG share(LONG pixel, int size) { return (2 * pixel + 1) * 32768 / size; }
 
-/// The display moves its own pointer after the system's, and its reports of that can put the mouse
+/// The display moves its own pointer after Windows', and its reports of that can put the mouse
 /// back for a moment. Once it has stayed where it is, all of them have arrived.
 bool restsAt(POINT place) {
   constexpr int kLooks = 6;

@@ -17,7 +17,7 @@ bool waitUntil(const std::function<bool()>& isSo, std::chrono::milliseconds limi
 void expectSoon(const std::function<bool()>& isSo, const std::string& expectation,
                 std::chrono::milliseconds limit = 10s);
 
-/// What the mouse and the keyboard themselves send. It arrives wherever the system takes it: a
+/// What the mouse and the keyboard themselves send. It arrives wherever Windows takes it: a
 /// window that is covered, disabled or without the focus gets nothing.
 void clickAt(POINT screen);
 void pressKey(WORD key, WORD modifier = 0);

@@ -3,7 +3,7 @@
 namespace korventally::driver {
 namespace {
 
-/// What a person does in a form, by one of two means.
+/// What a user does in a form, by one of two means.
 class Hand {
  public:
   explicit Hand(const Form& itsForm) : form(itsForm) {}

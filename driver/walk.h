@@ -8,7 +8,7 @@
 
 namespace korventally::driver {
 
-/// What a person enters for the sample study, as samples/README.md tells.
+/// What a user enters for the sample study, as samples/README.md tells.
 struct Study {
   std::wstring workDir;  ///< with its last backslash
   std::vector<std::wstring> concFiles = {L"all_sources.con", L"facility.con", L"other_1.con",

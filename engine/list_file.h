@@ -1,4 +1,4 @@
-// The list file: what a person reads after the run, and what the wizard waits for.
+// The list file: what a user reads after the run, and what the wizard waits for.
 //
 // Its last line is the verdict. "RUN COMPLETED" is written only after everything else is known to
 // be on the disk; whatever goes wrong later turns it into "RUN FAILED" again.

@@ -21,7 +21,7 @@ class Button : public Control {
 
   Style style() const { return style_; }
 
-  /// The person presses the button. Does nothing on an unusable one.
+  /// The user presses the button. Does nothing on an unusable one.
   void press() {
     if (usable()) raise(onClick);
   }

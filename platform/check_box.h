@@ -22,7 +22,7 @@ class CheckBox : public Control {
     changed(Aspect::kValue);
   }
 
-  /// The person ticks or unticks the box. Does nothing on an unusable one.
+  /// The user ticks or unticks the box. Does nothing on an unusable one.
   void press() {
     if (!usable()) return;
     setChecked(!checked_);

@@ -17,7 +17,7 @@ class Window;
 enum class Aspect { kEnabled, kVisible, kText, kBackColor, kValue, kSelection };
 
 /// A control of a window: its state and its events. Back ends only show that state and report what
-/// the person does; setting state from code raises no event of the person's.
+/// the user does; setting state from code raises no event of the user's.
 class Control {
  public:
   enum class Kind {
@@ -48,7 +48,7 @@ class Control {
   void setEnabled(bool enabled);
   bool visible() const { return visible_; }
   void setVisible(bool visible);
-  /// Whether a person can use it: enabled and visible, and so are all its containers.
+  /// Whether a user can use it: enabled and visible, and so are all its containers.
   bool usable() const;
 
   OleColor backColor() const { return backColor_; }
@@ -78,7 +78,7 @@ class Control {
   Control(Kind kind, Container* container, Rect place, Font font);
 
   void changed(Aspect aspect);
-  /// Runs a handler of the person's event, then moves the focus on if the handler closed the
+  /// Runs a handler of the user's event, then moves the focus on if the handler closed the
   /// control that had it.
   void raise(const std::function<void()>& handler);
 

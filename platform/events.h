@@ -5,7 +5,7 @@
 
 namespace korventally {
 
-/// Milliseconds since the system started; wraps round after 2^32.
+/// Milliseconds since Windows started; wraps round after 2^32.
 std::uint32_t tickCount();
 
 /// Handles everything that the user and Windows have in store for the windows, and what is due of
@@ -17,8 +17,8 @@ void processPendingEvents();
 /// every window.
 void runEventsWhile(const std::function<bool()>& goOn);
 
-/// Has `runDue` called `delay` milliseconds from now, also while a message box, a dialog or a menu of
-/// Windows is open, which handle events in a loop of their own. Takes the place of an earlier
+/// Has `runDue` called `delay` milliseconds from now, also while a message box, a dialog or a menu
+/// of Windows is open, which handle events in a loop of their own. Takes the place of an earlier
 /// request.
 void callRunDueIn(std::uint32_t delay);
 

@@ -13,7 +13,7 @@ namespace korventally {
 
 /// Paths are UTF-8 with backslashes. A relative path counts from the current directory.
 
-/// Whether an ordinary file of that name exists: no folder, not hidden, not of the system. Wildcard
+/// Whether an ordinary file of that name exists: no folder, not hidden, not of Windows. Wildcard
 /// characters never match.
 bool fileExists(const std::string& path);
 
@@ -42,7 +42,7 @@ class FileReader {
 };
 Result<std::unique_ptr<FileReader>> openForReading(const std::string& path);
 
-/// Text in the system's ANSI code page as UTF-8, and back; an error (kNotAnsi) when a character is
+/// Text in Windows' ANSI code page as UTF-8, and back; an error (kNotAnsi) when a character is
 /// lacking, never a look-alike.
 std::string fromAnsi(std::string_view bytes);
 Result<std::string> toAnsi(std::string_view text);

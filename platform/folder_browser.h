@@ -38,7 +38,7 @@ struct BrowseInfo {
   const char* data = nullptr;  ///< handed to the callback; lives as long as the dialog
 };
 
-/// Shows the browser modally. Returns the chosen item, or none when the person cancels.
+/// Shows the browser modally. Returns the chosen item, or none when the user cancels.
 ItemIdList shBrowseForFolder(const BrowseInfo& info);
 /// The file-system path of an item; empty when it has none.
 std::string shGetPathFromIdList(const ItemIdList& item);

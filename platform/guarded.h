@@ -6,8 +6,8 @@ namespace korventally {
 
 class Window;
 
-/// Runs a handler that the system has called. No exception may reach the system's own code above;
-/// the usual one, missing memory, is told to the person instead. `owner` may be none.
+/// Runs a handler that Windows has called. No exception may reach Windows' own code above;
+/// the usual one, missing memory, is told to the user instead. `owner` may be none.
 void runGuarded(Window* owner, const std::function<void()>& handler);
 
 }  // namespace korventally

@@ -31,7 +31,7 @@ void finishLater();
 /// Runs everything that is still to come at once: from now on there is no time left.
 void hurryLater();
 
-/// Whether that is so: nobody may wait any more, nor ask the person anything.
+/// Whether that is so: nobody may wait any more, nor ask the user anything.
 bool timeIsUp();
 
 }  // namespace korventally

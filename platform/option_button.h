@@ -20,9 +20,9 @@ class OptionButton : public Control {
   /// while the selected one cannot be used.
   bool standsForGroup() const;
 
-  /// The person selects the option. Does nothing on an unusable one.
+  /// The user selects the option. Does nothing on an unusable one.
   void press();
-  /// The person moves the selection with an arrow key: the next (or previous) usable option of the
+  /// The user moves the selection with an arrow key: the next (or previous) usable option of the
   /// container, round its ends, is selected and takes the focus.
   void moveSelection(bool forward);
 

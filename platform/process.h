@@ -27,10 +27,10 @@ class BatchRun {
 };
 
 /// Where the interpreter starts: in this program's current directory, from which relative paths
-/// count, or in the system's, where nobody can plant a program that the file calls by its name.
+/// count, or in Windows', where nobody can plant a program that the file calls by its name.
 enum class StartFolder { kCurrent, kSystem };
 
-/// Starts a batch file through the system's command interpreter, and does not wait for it. The
+/// Starts a batch file through Windows' command interpreter, and does not wait for it. The
 /// interpreter reads the file in the ANSI code page, runs no AutoRun commands and looks for no
 /// program in the current directory.
 Result<std::unique_ptr<BatchRun>> startBatchFile(const std::string& path, WindowStyle style,

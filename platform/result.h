@@ -11,15 +11,15 @@ namespace korventally {
 enum class ErrorKind {
   kNotFound,
   kBusy,     ///< another program holds the file, or has it marked for deletion: worth a retry
-  kNotAnsi,  ///< text that the system's ANSI code page lacks
+  kNotAnsi,  ///< text that Windows' ANSI code page lacks
   kOther,
 };
 
 /// Why a system operation failed, and on what.
 struct Error {
   ErrorKind kind = ErrorKind::kOther;
-  long code = 0;     ///< the system's own number; 0 when the system was not asked
-  std::string text;  ///< the system's reason, one sentence
+  long code = 0;     ///< Windows' own number; 0 when Windows was not asked
+  std::string text;  ///< Windows' reason, one sentence
   std::string path;  ///< full path of the file or folder
 };
 

@@ -11,7 +11,7 @@ namespace korventally {
 /// A single line of text to type.
 class TextBox : public Control {
  public:
-  /// `limit` is the most characters that a person can type or paste; 0 for no limit. Text set from
+  /// `limit` is the most characters that a user can type or paste; 0 for no limit. Text set from
   /// code is never cut.
   TextBox(Container& container, Rect place, std::string text = {}, int limit = 0,
           Font font = fonts::kDefault);
@@ -38,10 +38,10 @@ class TextBox : public Control {
   /// Marks the whole text, so that typing replaces it.
   void selectAll() { changed(Aspect::kSelection); }
 
-  /// A keystroke of the person's: runs `onKeyPress` and says whether the character may reach the
+  /// A keystroke of the user's: runs `onKeyPress` and says whether the character may reach the
   /// box. Enter never does, since the box is a single line.
   bool acceptsKey(std::int16_t keyCode);
-  /// The person has edited the text; the view shows it already.
+  /// The user has edited the text; the view shows it already.
   void edited(std::string text) { text_ = std::move(text); }
 
  private:

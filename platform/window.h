@@ -27,7 +27,7 @@ class Window : public Container {
   bool isOpen() const { return open_; }
   /// Closes the window without asking.
   void unload();
-  /// The person wants the window closed; `queryUnload` may refuse, and so does a modal window over
+  /// The user wants the window closed; `queryUnload` may refuse, and so does a modal window over
   /// this one.
   void requestClose();
   /// Closes every open window, the youngest first, without asking.
@@ -61,7 +61,7 @@ class Window : public Container {
 
  protected:
   virtual void Form_Load() {}
-  /// Whether the person may close the window now.
+  /// Whether the user may close the window now.
   virtual bool queryUnload() { return true; }
   virtual void Form_Unload() {}
   /// Where the focus should go when the control that has it can no longer be used; none for the

@@ -9,7 +9,7 @@ namespace korventally {
 
 class Window;
 
-/// An open window as a back end shows it. Reads the model and reports the person's doings to it:
+/// An open window as a back end shows it. Reads the model and reports the user's doings to it:
 /// `press`, `edited`, `acceptsKey`, `Window::focusMovedTo`, `Window::requestClose`.
 class WindowView {
  public:

@@ -167,7 +167,7 @@ make_prefix() { # width x height, dots per inch
 }
 
 # A Wine prefix below build/, one for each script, so that they may run at the same time and the
-# person's own is never touched.
+# user's own is never touched.
 use_prefix() { # name, width x height, dots per inch
   export WINEPREFIX=$build/wine/$1 WINEARCH=win64 WINEDEBUG=-all
   # No Mono, no browser, no debugger that keeps a crashed program waiting, no menu entries.

@@ -8,7 +8,7 @@
 #include "case/basModule.h"
 #include "platform/headless/desktop.h"
 #include "run/frmRunSummary.h"
-#include "tests/person.h"
+#include "tests/user.h"
 #include "wizard/frmKORVENTALLY.h"
 
 namespace korventally::testing {
@@ -21,7 +21,7 @@ class Study {
 
   /// Opens the wizard, lets the visit happen and closes the wizard.
   void inWizard(const std::function<void(frmKORVENTALLY&)>& visit);
-  /// What the person does in the run summary when it opens next; it is closed afterwards.
+  /// What the user does in the run summary when it opens next; it is closed afterwards.
   void expectSummary(const std::function<void(frmRunSummary&)>& visit);
   /// Shows the run summary of a captured case, without the wizard.
   void inSummary(const std::function<void(frmRunSummary&)>& visit);

@@ -11,7 +11,7 @@ namespace {
 constexpr char32_t kFirst = 0x80;
 
 /// Windows-1252 from 0x80 to 0x9F; elsewhere byte and character agree. The five bytes that stand
-/// for nothing are converted as the system does, to control characters.
+/// for nothing are converted as Windows does, to control characters.
 constexpr std::array<char32_t, 32> kTable = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
@@ -33,7 +33,9 @@ std::optional<char> byteOf(char32_t character) {
 
 Error notAnsi(std::string_view text) {
   return {ErrorKind::kNotAnsi, 0,
-          "The system's code page lacks a character of \"" + std::string(text) + "\".", ""};
+          "This text contains a character that cannot be written in this system's code page: \"" +
+              std::string(text) + "\".",
+          ""};
 }
 
 }  // namespace

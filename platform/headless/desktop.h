@@ -69,10 +69,10 @@ class Desktop {
   /// Answers every message that was not expected by name.
   using Answerer = std::function<Answer(const std::string& text, Buttons buttons)>;
   void answerMessages(Answerer answerer);
-  /// The person picks `path` in the open-file dialog, or cancels it with the empty text. `look`
+  /// The user picks `path` in the open-file dialog, or cancels it with the empty text. `look`
   /// sees the dialog as it was set up.
   void expectOpenFile(std::string path, std::function<void(const CommonDialog&)> look = {});
-  /// The person picks `path` in the folder browser, or cancels it with the empty text. `look` sees
+  /// The user picks `path` in the folder browser, or cancels it with the empty text. `look` sees
   /// the title, the flags and the folder that the browser's callback preselected.
   struct Browser {
     std::string title;
@@ -80,13 +80,13 @@ class Desktop {
     bool rootIsDrives = false;
     std::string preselected;
   };
-  /// What the person picks for the computer's drives, an item without a path.
+  /// What the user picks for the computer's drives, an item without a path.
   static constexpr const char* kThisComputer = "::";
   void expectBrowser(std::string path, std::function<void(const Browser&)> look = {});
-  /// What the person does in the next window that opens, up to closing it. A window left open by
+  /// What the user does in the next window that opens, up to closing it. A window left open by
   /// that fails the test and is closed.
   void expectWindow(std::function<void(Window&)> visit);
-  /// Whether the person can use the window: it is open, and no modal one stands before it.
+  /// Whether the user can use the window: it is open, and no modal one stands before it.
   bool takesInput(const Window& window) const;
   /// What was said to assistive programs.
   const std::vector<std::string>& announcements() const;

@@ -11,7 +11,7 @@ namespace {
 
 Desktop::World& world() { return Desktop::current().world(); }
 
-/// The person turns to the youngest window and does there what the test has in mind.
+/// The user turns to the youngest window and does there what the test has in mind.
 bool visitYoungestWindow() {
   if (world().shown.empty() || !world().shown.back().visit) return false;
   const auto visit = std::exchange(world().shown.back().visit, nullptr);

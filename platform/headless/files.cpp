@@ -41,7 +41,7 @@ Result<Node*> usableFile(const FullPath& path) {
 std::optional<Error> obstacle(const FullPath& path) {
   const Result<Node*> file = usableFile(path);
   if (file) {
-    // The system replaces neither a read-only file nor, unasked, a hidden one.
+    // Windows replaces neither a read-only file nor, unasked, a hidden one.
     if (file.value()->attribute == Desktop::Attribute::kNormal) return std::nullopt;
     return systemError(kAccessDenied, path.text);
   }

@@ -6,7 +6,7 @@
 
 namespace korventally::headless {
 
-/// A path as the system resolves it: drive and names, no final backslash ("C:\Study", "C:").
+/// A path as Windows resolves it: drive and names, no final backslash ("C:\Study", "C:").
 struct FullPath {
   std::string text;
   /// Whether it was given with a final backslash, which can only name a folder.
@@ -24,7 +24,7 @@ std::string parentOf(const std::string& fullPath);
 /// The form in which two names that differ only in case are equal.
 std::string foldCase(std::string name);
 
-/// The error of that number, with the system's sentence.
+/// The error of that number, with Windows' sentence.
 Error systemError(long code, const std::string& path);
 
 }  // namespace korventally::headless

@@ -37,7 +37,7 @@ struct ExpectedFolder {
 struct ShownWindow {
   Window* window;
   Window* owner;
-  std::function<void(Window&)> visit;  ///< none when the person has been there
+  std::function<void(Window&)> visit;  ///< none when the user has been there
 };
 
 }  // namespace headless

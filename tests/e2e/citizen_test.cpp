@@ -62,7 +62,7 @@ TEST(Citizen, ObjectsToTheEndOfTheSessionDuringARunAndLeavesNothing) {
   const fs::path helper = installation.path() / "helper_lives";
   ASSERT_TRUE(waitUntil([&] { return fs::exists(helper); }));
   EXPECT_FALSE(agreesToSessionEnd(program));
-  tellSessionEnd(program, false);  // the person has gone back to work
+  tellSessionEnd(program, false);  // the user has gone back to work
   EXPECT_TRUE(fs::exists(study.path() / "korventally.inp"));
   EXPECT_FALSE(summary.usable("cmdRUN"));
 

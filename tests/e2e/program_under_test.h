@@ -7,7 +7,7 @@
 
 namespace korventally::driver {
 
-/// A message box of the program, as the person sees it.
+/// A message box of the program, as the user sees it.
 struct Message {
   HWND window;
   std::wstring title, text;

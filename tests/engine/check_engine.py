@@ -5,7 +5,7 @@ Usage: check_engine.py [--count N] [--seed S] ENGINE...
 ENGINE is the program, or a command in front of it (wine path/to/korventally.exe).
 
 Every study is computed here with exact fractions from the very texts that the files hold, then
-the engine's list file is read as a person would read it: maxima, counts, exceedances with their
+the engine's list file is read as a user would read it: maxima, counts, exceedances with their
 contributions, averages left out, warnings. Exit status 1 and the study's folder on a difference.
 """
 import argparse

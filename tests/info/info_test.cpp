@@ -39,6 +39,7 @@ TEST_F(Info, AboutNamesTheVersion) {
     EXPECT_EQ(about.text(), " About KORVENTALLY...");
     EXPECT_EQ(about.lblVersion.text(), "Version1.2");
     EXPECT_EQ(about.lblLevel.text(), "March 27, 2009");
+    EXPECT_EQ(about.backColor(), colors::kTitleBarText);
     click(about.cmdOK);
   });
 }

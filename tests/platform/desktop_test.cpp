@@ -5,8 +5,8 @@
 #include "platform/events.h"
 #include "platform/files.h"
 #include "platform/later.h"
-#include "tests/person.h"
 #include "tests/platform/contract/form.h"
+#include "tests/user.h"
 
 namespace korventally::testing {
 namespace {

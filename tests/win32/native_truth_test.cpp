@@ -1,11 +1,13 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include "platform/contrast.h"
 #include "platform/win32/system/text.h"
+#include "platform/win32/ui/colors.h"
 #include "platform/win32/ui/native_lookup.h"
-#include "tests/person.h"
 #include "tests/platform/contract/form.h"
 #include "tests/platform/contract/world.h"
+#include "tests/user.h"
 
 namespace korventally::testing {
 namespace {
@@ -44,6 +46,11 @@ class NativeTruth : public ::testing::Test {
   World world;
   Form form;
 };
+
+TEST_F(NativeTruth, BlueOnTheColourOfTitleBarTextCanBeRead) {
+  const COLORREF ground = win32::groundColor(colors::kTitleBarText);
+  EXPECT_GE(contrastRatio(colors::kBlue, ground), kReadableContrast);
+}
 
 TEST_F(NativeTruth, IsToldFromTheFirstMomentAndAfterEveryChange) {
   form.box.setText("before ü");

@@ -16,7 +16,7 @@ namespace {
 
 using win32::toWide;
 
-/// The longest path that the system knows.
+/// The longest path that Windows knows.
 constexpr std::size_t kLongestPath = 32768;
 
 /// The open-file dialog changes the current directory whatever its flags say; paths relative to it
@@ -34,7 +34,7 @@ class KeepCurrentDirectory {
   std::wstring path_;
 };
 
-/// Shows the dialog. Nothing when the person cancels, and nothing when it cannot be shown.
+/// Shows the dialog. Nothing when the user cancels, and nothing when it cannot be shown.
 std::wstring askForFile(const OPENFILENAMEW& wanted) {
   std::wstring chosen(kLongestPath, L'\0');
   OPENFILENAMEW dialog = wanted;

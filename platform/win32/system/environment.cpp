@@ -40,7 +40,7 @@ std::wstring environmentWith(const std::vector<Variable>& additions) {
     });
     entries.push_back(std::move(added));
   }
-  // The system looks variables up by halving a sorted block.
+  // Windows looks variables up by halving a sorted block.
   std::stable_sort(entries.begin(), entries.end(), [](const auto& left, const auto& right) {
     return compareNames(left, right) == CSTR_LESS_THAN;
   });

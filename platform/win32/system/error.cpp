@@ -35,7 +35,7 @@ ErrorKind kindOf(DWORD code, const std::string& path) {
   }
 }
 
-/// The system's own sentence in the person's language, on one line.
+/// Windows' own sentence in the user's language, on one line.
 std::string sentenceOf(DWORD code) {
   wchar_t buffer[1024];
   constexpr DWORD kFlags = FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS |

@@ -9,7 +9,7 @@
 namespace korventally::win32 {
 
 /// The error that a system function left behind, told of the file at `path`. The only place where
-/// the system's numbers become kinds and sentences.
+/// Windows' numbers become kinds and sentences.
 Error systemError(DWORD code, const std::string& path);
 Error lastError(const std::string& path);
 

@@ -16,7 +16,7 @@ using win32::Handle;
 using win32::lastError;
 using win32::nativePath;
 
-/// Three more characters than "*" and "?" are wildcards to the system's file listing.
+/// Three more characters than "*" and "?" are wildcards to Windows' file listing.
 bool hasWildcard(const std::string& path) {
   return path.find_first_of("*?<>\"") != std::string::npos;
 }
@@ -102,7 +102,7 @@ bool folderListsEntries(const std::string& path) {
 }
 
 bool sameFile(const std::string& one, const std::string& other) {
-  // Both stay open until they have been compared: the system may give a number out again.
+  // Both stay open until they have been compared: Windows may give a number out again.
   const Handle first = openToLookAt(one);
   const Handle second = openToLookAt(other);
   const auto a = identityOf(first);

@@ -7,7 +7,7 @@
 namespace korventally::win32 {
 
 /// Owns a kernel handle. Holds none both for a null handle and for INVALID_HANDLE_VALUE, because
-/// the system's functions fail with either.
+/// Windows' functions fail with either.
 class Handle {
  public:
   Handle() = default;

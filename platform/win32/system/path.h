@@ -4,12 +4,12 @@
 
 namespace korventally::win32 {
 
-/// The path for the system's wide functions: as it stands, so that the system tidies it up as it
+/// The path for Windows' wide functions: as it stands, so that Windows tidies it up as it
 /// does for every program, unless it is too long for that.
 std::wstring nativePath(const std::string& path);
 /// The path counted from a drive or server, for messages.
 std::string fullPath(const std::string& path);
-/// The folder of the system's own programs, without a final backslash; empty when the system does
+/// The folder of Windows' own programs, without a final backslash; empty when Windows does
 /// not tell.
 std::wstring systemDirectory();
 

@@ -16,7 +16,7 @@ using win32::Handle;
 constexpr UINT kTerminated = 1;
 constexpr DWORD kPatienceMs = 50;
 
-/// A job object counts and ends the interpreter together with all that it starts. When the system
+/// A job object counts and ends the interpreter together with all that it starts. When Windows
 /// refuses one, because this program itself runs in a job that allows none inside, the interpreter
 /// alone has to stand for the run.
 class Win32BatchRun : public BatchRun {

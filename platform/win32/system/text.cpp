@@ -33,7 +33,7 @@ std::optional<std::string> encode(UINT codePage, DWORD flags, std::wstring_view 
   return bytes;
 }
 
-/// Two code pages that can be the system's hold every character, and refuse the flag.
+/// Two code pages that can be Windows' hold every character, and refuse the flag.
 DWORD strictFlags(UINT codePage) {
   constexpr UINT kGb18030 = 54936;
   return codePage == CP_UTF8 || codePage == kGb18030 ? 0 : WC_NO_BEST_FIT_CHARS;
@@ -64,11 +64,11 @@ std::string fromAnsi(std::string_view bytes) {
 Result<std::string> toAnsi(std::string_view text) {
   if (auto bytes = win32::encodeFaithfully(text)) return std::move(*bytes);
   const std::string codePage = std::to_string(GetACP());
-  return Error{
-      ErrorKind::kNotAnsi,
-      0,
-      "The system's code page " + codePage + " lacks a character of \"" + std::string(text) + "\".",
-      {}};
+  return Error{ErrorKind::kNotAnsi,
+               0,
+               "This text contains a character that cannot be written in this system's code page " +
+                   codePage + ": \"" + std::string(text) + "\".",
+               {}};
 }
 
 }  // namespace korventally

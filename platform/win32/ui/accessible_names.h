@@ -7,7 +7,7 @@
 
 namespace korventally::win32 {
 
-/// What assistive programs read of the controls beyond their captions. Without the system's help
+/// What assistive programs read of the controls beyond their captions. Without Windows' help
 /// they read the captions alone.
 class AccessibleNames {
  public:

@@ -10,7 +10,7 @@
 namespace korventally {
 namespace {
 
-/// Libraries come from the system's folder alone, so that nobody can slip one in beside the
+/// Libraries come from Windows' folder alone, so that nobody can slip one in beside the
 /// program. Nothing may be loaded before this.
 void loadFromSystemFolderOnly() {
   using SetDirectories = BOOL(WINAPI*)(DWORD);

@@ -35,7 +35,7 @@ class NativeButton : public PaintedControl {
   LRESULT state() const { return SendMessageW(handle(), BM_GETSTATE, 0, 0); }
   bool pushed() const { return state() & BST_PUSHED; }
 
-  /// The colour that the button is to show; the button face stands for the system's usual look.
+  /// The colour that the button is to show; the button face stands for Windows' usual look.
   OleColor face() const {
     return button_.style() == Button::Style::kGraphical ? model().backColor() : colors::kButtonFace;
   }

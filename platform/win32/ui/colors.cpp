@@ -1,5 +1,7 @@
 #include "platform/win32/ui/colors.h"
 
+#include "platform/contrast.h"
+
 namespace korventally::win32 {
 namespace {
 
@@ -8,6 +10,14 @@ constexpr OleColor kSystemColor = 0x80000000;
 COLORREF asStored(OleColor color) {
   if (color & kSystemColor) return GetSysColor(static_cast<int>(color & 0xFF));
   return static_cast<COLORREF>(color);
+}
+
+/// The colour of title-bar text as a ground, which is written on in blue. Windows 10 and 11 have it
+/// black, and blue on black cannot be read: there it is the colour of a window.
+COLORREF titleBarTextGround() {
+  const COLORREF ground = asStored(colors::kTitleBarText);
+  const bool readable = contrastRatio(colors::kBlue, ground) >= kReadableContrast;
+  return readable ? ground : GetSysColor(COLOR_WINDOW);
 }
 
 /// Whether the ground says something, as the yellow of a wrong field does.
@@ -30,7 +40,9 @@ COLORREF textColor(OleColor text, OleColor ground, bool usable) {
 }
 
 COLORREF groundColor(OleColor ground) {
-  if (!highContrast()) return asStored(ground);
+  if (!highContrast()) {
+    return ground == colors::kTitleBarText ? titleBarTextGround() : asStored(ground);
+  }
   if (marks(ground)) return GetSysColor(COLOR_HIGHLIGHT);
   return GetSysColor(ground == colors::kButtonFace ? COLOR_BTNFACE : COLOR_WINDOW);
 }

@@ -6,10 +6,10 @@
 
 namespace korventally::win32 {
 
-/// The colours on the screen for those of the model. In a high-contrast theme the system's own
+/// The colours on the screen for those of the model. In a high-contrast theme Windows' own
 /// colours take their place, and a ground that marks something becomes the highlight.
 
-/// Whether the person has asked for a high-contrast theme.
+/// Whether the user has asked for a high-contrast theme.
 bool highContrast();
 
 /// Text of the given colour on the given ground; unusable controls have grey text.

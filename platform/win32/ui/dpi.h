@@ -10,7 +10,7 @@ namespace korventally::win32 {
 int dpiOf(HWND window);
 /// Grows a client area to the whole window around it.
 void growToWindow(RECT& area, DWORD style, bool menu, DWORD extendedStyle, int dpi);
-/// A measure of the system, such as SM_CXVSCROLL.
+/// A measure of Windows, such as SM_CXVSCROLL.
 int systemMetric(int index, int dpi);
 
 }  // namespace korventally::win32

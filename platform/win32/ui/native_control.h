@@ -29,8 +29,8 @@ struct Site {
   int id;
 };
 
-/// A control of the model as a child window of one of the system's classes. Shows the model and
-/// reports what the person does; keeps no state of its own. The window is destroyed by its parent.
+/// A control of the model as a child window of one of Windows' classes. Shows the model and
+/// reports what the user does; keeps no state of its own. The window is destroyed by its parent.
 class NativeControl {
  public:
   virtual ~NativeControl() = default;
@@ -49,7 +49,7 @@ class NativeControl {
   /// Shows one aspect of the model.
   virtual void refresh(Aspect aspect);
 
-  /// What the system asks or tells a control's parent: WM_COMMAND, WM_NOTIFY and WM_CTLCOLOR....
+  /// What Windows asks or tells a control's parent: WM_COMMAND, WM_NOTIFY and WM_CTLCOLOR....
   /// Whoever is a parent hands its messages on here; none when the message is not a child's.
   static std::optional<LRESULT> reflect(UINT message, WPARAM first, LPARAM second);
 
@@ -59,7 +59,7 @@ class NativeControl {
 
   /// A message of the window's own.
   virtual LRESULT onMessage(UINT message, WPARAM first, LPARAM second);
-  /// The person did something that the window's class reports by a code, such as BN_CLICKED.
+  /// The user did something that the window's class reports by a code, such as BN_CLICKED.
   virtual void command(WORD /*code*/) {}
   virtual std::optional<LRESULT> notify(const NMHDR& /*header*/) { return std::nullopt; }
   /// Chooses the colours of text and ground.

@@ -25,14 +25,14 @@ class NativeWindow : public WindowView {
 
   /// The view of an open window, or none.
   static NativeWindow* of(const Window& window);
-  /// The view that a window of the system, or a child of it, belongs to; none for a foreign one.
+  /// The view that a window of Windows, or a child of it, belongs to; none for a foreign one.
   static NativeWindow* of(HWND any);
 
   HWND handle() const { return handle_; }
   Window& model() const { return window_; }
   bool closed() const { return stage_.closed(); }
   HWND handleOf(const Control& control) const;
-  /// From now on the focus is to be seen, since the person moves it by keyboard.
+  /// From now on the focus is to be seen, since the user moves it by keyboard.
   void showFocus();
 
   void refresh(const Control& control, Aspect aspect) override;

@@ -14,7 +14,7 @@
 namespace korventally::win32 {
 namespace {
 
-/// Messages at which some versions of the system paint a button on the spot, in its own look.
+/// Messages at which some versions of Windows paint a button on the spot, in its own look.
 bool changesLook(UINT message) {
   switch (message) {
     case BM_SETSTATE:

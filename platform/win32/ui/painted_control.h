@@ -6,8 +6,8 @@
 
 namespace korventally::win32 {
 
-/// A control that paints itself, because the system's own look has no room for the model's colours
-/// under a visual style. In all else it is the system's control.
+/// A control that paints itself, because Windows' own look has no room for the model's colours
+/// under a visual style. In all else it is Windows' control.
 class PaintedControl : public NativeControl {
  protected:
   using NativeControl::NativeControl;

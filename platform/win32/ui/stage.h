@@ -11,7 +11,7 @@
 namespace korventally::win32 {
 
 /// What the controls of one open window share: its resolution, its fonts, and whether what the
-/// person does still counts.
+/// user does still counts.
 class Stage {
  public:
   explicit Stage(int dpi = USER_DEFAULT_SCREEN_DPI) : dpi_(dpi) {}
@@ -25,7 +25,7 @@ class Stage {
   int scaled(int pixels) const { return MulDiv(pixels, dpi_, USER_DEFAULT_SCREEN_DPI); }
   HFONT font(const Font& font);
 
-  /// Once the window has closed, messages that were under way are no doings of the person's.
+  /// Once the window has closed, messages that were under way are no doings of the user's.
   bool closed() const { return closed_; }
   void close() { closed_ = true; }
 

@@ -4,7 +4,7 @@
 
 namespace korventally::win32 {
 
-/// A function of a library that is loaded already, or none where the system is too old to have it.
+/// A function of a library that is loaded already, or none where Windows is too old to have it.
 template <typename Function>
 Function systemFunction(const wchar_t* library, const char* name) {
   const FARPROC found = GetProcAddress(GetModuleHandleW(library), name);

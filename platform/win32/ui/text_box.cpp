@@ -82,7 +82,7 @@ class NativeTextBox : public NativeControl {
   }
 
  private:
-  /// Adds the margins to what the system has answered.
+  /// Adds the margins to what Windows has answered.
   LRESULT extend(LRESULT answer, UINT message, LPARAM second) {
     switch (message) {
       case WM_NCCALCSIZE:
@@ -120,7 +120,7 @@ class NativeTextBox : public NativeControl {
   }
 
   void drop(const std::wstring& path) {
-    // The system lets files fall on a window that lies under a modal one.
+    // Windows lets files fall on a window that lies under a modal one.
     const bool covered = !IsWindowEnabled(GetAncestor(handle(), GA_ROOT));
     if (stage().closed() || covered || !box_.usable() || path.empty()) return;
     box_.window().setFocus(box_);
@@ -129,7 +129,7 @@ class NativeTextBox : public NativeControl {
     SendMessageW(handle(), EM_SETSEL, path.size(), static_cast<LPARAM>(path.size()));
   }
 
-  /// As if the person had typed it: within the limit.
+  /// As if the user had typed it: within the limit.
   void replaceSelection(std::wstring text) {
     if (box_.limit() > 0) text.resize(std::min(text.size(), room()));
     SendMessageW(handle(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(text.c_str()));

@@ -7,7 +7,7 @@
 namespace korventally::win32 {
 namespace {
 
-/// What the system leaves free above and below the line of text itself.
+/// What Windows leaves free above and below the line of text itself.
 constexpr int kGap = 1;
 
 int lineHeight(HWND box) {

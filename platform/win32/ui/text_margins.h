@@ -4,14 +4,14 @@
 
 namespace korventally::win32 {
 
-/// The system puts the text of a box for a single line at its top edge, which is well above the
+/// Windows puts the text of a box for a single line at its top edge, which is well above the
 /// middle where the resolution is high. So the client area is made as high as the text and centred
-/// in the box; what lies above and below it are margins, which the system does not paint.
+/// in the box; what lies above and below it are margins, which Windows does not paint.
 class TextMargins {
  public:
-  /// For WM_NCCALCSIZE, after the system's own answer: takes the margins from the client area.
+  /// For WM_NCCALCSIZE, after Windows' own answer: takes the margins from the client area.
   void takeFrom(RECT& client, HWND box);
-  /// For WM_NCPAINT, after the system has painted the border.
+  /// For WM_NCPAINT, after Windows has painted the border.
   void paint(HWND box, COLORREF ground) const;
   /// For WM_NCHITTEST: a margin belongs to the box as much as its text does.
   bool contain(HWND box, POINT onScreen) const;

@@ -2,16 +2,16 @@
 
 #include <algorithm>
 
-#include "tests/person.h"
 #include "tests/platform/contract/form.h"
 #include "tests/platform/contract/world.h"
+#include "tests/user.h"
 
 namespace korventally::testing {
 namespace {
 
 class Controls : public ::testing::Test {
  protected:
-  /// Opens the form, forgets what happened up to then, and lets the person do `visit`.
+  /// Opens the form, forgets what happened up to then, and lets the user do `visit`.
   void visit(const std::function<void()>& doings) {
     form.open([&] {
       form.takeLog();

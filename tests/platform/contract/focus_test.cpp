@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "tests/person.h"
 #include "tests/platform/contract/form.h"
 #include "tests/platform/contract/world.h"
+#include "tests/user.h"
 
 namespace korventally::testing {
 namespace {

@@ -16,7 +16,7 @@
 
 namespace korventally::testing {
 
-/// A window with a control of each kind that a person can use. It writes down every event.
+/// A window with a control of each kind that a user can use. It writes down every event.
 class Form : public Window {
  public:
   explicit Form(std::string caption = "Form") : Window(std::move(caption), {9000, 6000}) {
@@ -34,7 +34,7 @@ class Form : public Window {
 
   bool closesOnEscape() const override { return escapeCloses; }
 
-  /// Shows the form; the person does `visit` in it, and then it is closed.
+  /// Shows the form; the user does `visit` in it, and then it is closed.
   void open(const std::function<void()>& visit, Window* owner = nullptr) {
     runLater("visit of " + text(), 0, [this, visit] {
       visit();

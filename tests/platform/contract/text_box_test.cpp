@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "tests/person.h"
 #include "tests/platform/contract/form.h"
 #include "tests/platform/contract/world.h"
+#include "tests/user.h"
 
 namespace korventally::testing {
 namespace {
@@ -37,7 +37,7 @@ TEST_F(TextBoxes, HoldWhatIsTypedAndPasted) {
   EXPECT_EQ(form.box.text(), "code") << "also after the window is gone";
 }
 
-TEST_F(TextBoxes, LimitThePersonAndNotTheCode) {
+TEST_F(TextBoxes, LimitTheUserAndNotTheCode) {
   visit([&] {
     type(form.shortBox, "123456");
     EXPECT_EQ(form.shortBox.text(), "1234");

@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
 #include "platform/events.h"
-#include "tests/person.h"
 #include "tests/platform/contract/form.h"
 #include "tests/platform/contract/world.h"
+#include "tests/user.h"
 
 namespace korventally::testing {
 namespace {
@@ -15,7 +15,7 @@ class Windows : public ::testing::Test {
   Form second{"Second"};
 };
 
-TEST_F(Windows, AskBeforeThePersonClosesThem) {
+TEST_F(Windows, AskBeforeTheUserClosesThem) {
   form.open([&] {
     form.takeLog();
     form.refusesToClose = true;

@@ -1,4 +1,4 @@
-#include "tests/person.h"
+#include "tests/user.h"
 
 #include <cstdint>
 
@@ -14,15 +14,15 @@ namespace {
 constexpr std::int16_t kBackspaceCode = 8;
 constexpr char32_t kEnterCode = '\r';
 
-/// A person can only deal with what is on the screen; a test that asks for more has lost its way.
+/// A user can only deal with what is on the screen; a test that asks for more has lost its way.
 bool inReach(const Window& window) {
-  if (!window.isOpen()) Desktop::onFailure("the person sees no such window: " + window.text());
+  if (!window.isOpen()) Desktop::onFailure("the user sees no such window: " + window.text());
   return Desktop::current().takesInput(window);
 }
 
 bool inReach(const Control& control) { return inReach(control.window()) && control.usable(); }
 
-/// Whether the person has got the focus there. It leaves the old control first, and what happens on
+/// Whether the user has got the focus there. It leaves the old control first, and what happens on
 /// leaving may put this one out of reach.
 bool focusOn(Control& control) {
   if (!inReach(control)) return false;

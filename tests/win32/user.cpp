@@ -1,4 +1,4 @@
-#include "tests/person.h"
+#include "tests/user.h"
 
 #include <windows.h>
 
@@ -13,7 +13,7 @@ namespace {
 using win32::nativeHandle;
 
 /// The system hands mouse and keyboard only to a window that is shown and enabled with all those
-/// around it. A message that is sent there by a program passes all the same, so a person has to
+/// around it. A message that is sent there by a program passes all the same, so a user has to
 /// look first.
 bool inReach(HWND window) {
   for (HWND at = window; at != nullptr; at = GetAncestor(at, GA_PARENT)) {
@@ -34,7 +34,7 @@ void post(HWND window, UINT message, WPARAM first, LPARAM second) {
   settle();
 }
 
-/// Whether the person has got the focus there.
+/// Whether the user has got the focus there.
 bool focusOn(HWND control) {
   if (!inReach(control)) return false;
   if (GetFocus() != control) SetFocus(control);

@@ -7,7 +7,7 @@
 
 namespace korventally::testing {
 
-/// What a person does with mouse and keyboard, on whichever back end the tests are linked with.
+/// What a user does with mouse and keyboard, on whichever back end the tests are linked with.
 /// Each returns when the window has dealt with it. On a control that is not usable nothing happens.
 void click(Control& control);
 /// Puts the focus on the box and types the text, character by character, behind what it holds.
