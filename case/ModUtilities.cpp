@@ -1,16 +1,27 @@
 #include "case/ModUtilities.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <cstdint>
 #include <memory>
+#include <stop_token>
+#include <string>
+#include <string_view>
 #include <utility>
+#include <vector>
 
 #include "case/failures.h"
 #include "case/run_files.h"
+#include "platform/color.h"
+#include "platform/control.h"
 #include "platform/dialogs.h"
 #include "platform/events.h"
 #include "platform/files.h"
+#include "platform/label.h"
 #include "platform/later.h"
 #include "platform/process.h"
+#include "platform/result.h"
+#include "platform/text_box.h"
 
 namespace korventally {
 namespace {
@@ -93,7 +104,7 @@ void FilterDigitKey(std::int16_t& keyCode) {
   if (isPrintable(keyCode) && !isDigit(keyCode)) keyCode = 0;
 }
 
-void MoveOnAtEnter(Window& window, std::int16_t& keyCode) {
+void moveOnAtEnter(Window& window, std::int16_t& keyCode) {
   constexpr std::int16_t kEnter = 13;
   if (keyCode != kEnter) return;
   window.moveFocus();
@@ -124,7 +135,7 @@ Status OpenFileInNotepad(const std::string& directory, const std::string& fileNa
   const std::string batch = folder + kEditorBatchFile;
   // An editor opened a moment ago has its batch file still in use.
   runNow(batch);
-  const Status written = retryWhileBusy(
+  Status written = retryWhileBusy(
       [&] { return writeTextFile(batch, {"notepad " + batchQuoted(folder + fileName)}); }, stop);
   if (stop.stop_requested()) return written ? removeOwnFile(batch) : Status();
   if (!written) return written;

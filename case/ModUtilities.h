@@ -1,12 +1,13 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <stop_token>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "platform/button.h"
+#include "platform/control.h"
 #include "platform/label.h"
 #include "platform/result.h"
 #include "platform/text_box.h"
@@ -42,7 +43,7 @@ void FilterDecimalKey(std::int16_t& keyCode);
 void FilterDigitKey(std::int16_t& keyCode);
 
 /// Enter in a box moves the focus on as Tab does, and is discarded.
-void MoveOnAtEnter(Window& window, std::int16_t& keyCode);
+void moveOnAtEnter(Window& window, std::int16_t& keyCode);
 
 /// Waits at least `duration` milliseconds, busily, while events are handled: any other handler may
 /// run before it returns. A duration of zero or less returns at once. Ends early when `stop` is

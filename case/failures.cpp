@@ -1,12 +1,16 @@
 #include "case/failures.h"
 
 #include <cstdint>
+#include <functional>
+#include <stop_token>
+#include <string>
 
 #include "case/ModUtilities.h"
 #include "platform/dialogs.h"
 #include "platform/events.h"
 #include "platform/files.h"
 #include "platform/later.h"
+#include "platform/result.h"
 
 namespace korventally {
 namespace {

@@ -2,7 +2,13 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
+#include <cstdlib>
 #include <stdexcept>
+#include <string>
+#include <string_view>
+
+#include "driver/input.h"
 
 namespace korventally::driver {
 namespace {

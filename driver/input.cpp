@@ -1,6 +1,9 @@
 #include "driver/input.h"
 
+#include <chrono>
+#include <functional>
 #include <stdexcept>
+#include <string>
 #include <vector>
 
 namespace korventally::driver {

@@ -1,9 +1,16 @@
 // Takes the wizard through the sample study for scripts/demo and scripts/screenshots: says what it
 // does, and asks for a picture of each step with a line "picture NAME GEOMETRY", which is there
 // once the file is.
+#include <chrono>
 #include <cstdio>
 #include <exception>
+#include <filesystem>
+#include <string>
+#include <utility>
 
+#include "driver/forms.h"
+#include "driver/input.h"
+#include "driver/program.h"
 #include "driver/walk.h"
 
 namespace korventally::driver {

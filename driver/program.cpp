@@ -1,8 +1,13 @@
 #include "driver/program.h"
 
-#include <algorithm>
+#include <chrono>
+#include <filesystem>
 #include <stdexcept>
+#include <string>
 #include <vector>
+
+#include "driver/forms.h"
+#include "driver/input.h"
 
 namespace korventally::driver {
 namespace {

@@ -1,3 +1,6 @@
+#include <span>
+#include <string_view>
+
 #include "driver/forms.h"
 
 namespace korventally::driver {

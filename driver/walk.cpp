@@ -1,5 +1,14 @@
 #include "driver/walk.h"
 
+#include <chrono>
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "driver/forms.h"
+#include "driver/input.h"
+#include "driver/program.h"
+
 namespace korventally::driver {
 namespace {
 

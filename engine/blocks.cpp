@@ -1,5 +1,10 @@
 #include "engine/blocks.h"
 
+#include <cstdint>
+#include <string>
+
+#include "engine/calendar.h"
+#include "engine/control_file.h"
 #include "engine/fault.h"
 #include "engine/text.h"
 

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "engine/calendar.h"
 #include "engine/control_file.h"
 
 namespace korventally::engine {

@@ -1,7 +1,10 @@
 #include "engine/calendar.h"
 
 #include <chrono>
+#include <cstdint>
 #include <cstdio>
+#include <optional>
+#include <string>
 
 namespace korventally::engine {
 namespace {

@@ -2,6 +2,8 @@
 
 #include <charconv>
 #include <cstdio>
+#include <string>
+#include <string_view>
 
 namespace korventally::engine {
 namespace {

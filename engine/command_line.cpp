@@ -2,8 +2,10 @@
 
 #include <cstdio>
 #include <string>
+#include <vector>
 
 #include "engine/engine.h"
+#include "engine/system_files.h"
 #include "engine/version.h"
 
 namespace korventally::engine {

@@ -1,13 +1,21 @@
 #include "engine/concentration_file.h"
 
+#include <cstddef>
+#include <cstdint>
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
+#include "engine/blocks.h"
+#include "engine/calendar.h"
 #include "engine/fault.h"
 #include "engine/fields.h"
 #include "engine/line_reader.h"
+#include "engine/system_files.h"
 #include "engine/text.h"
 #include "engine/value_row.h"
 

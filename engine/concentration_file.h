@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "engine/blocks.h"
+#include "engine/calendar.h"
 #include "engine/system_files.h"
 
 namespace korventally::engine {

@@ -1,11 +1,16 @@
 #include "engine/control_file.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 
+#include "engine/calendar.h"
 #include "engine/fault.h"
 #include "engine/line_reader.h"
+#include "engine/system_files.h"
 #include "engine/text.h"
 
 namespace korventally::engine {

@@ -1,6 +1,9 @@
 #include "engine/engine.h"
 
 #include <chrono>
+#include <cstddef>
+#include <cstdint>
+#include <exception>
 #include <memory>
 #include <new>
 #include <string>
@@ -8,6 +11,7 @@
 
 #include "engine/blocks.h"
 #include "engine/columns.h"
+#include "engine/concentration_file.h"
 #include "engine/control_file.h"
 #include "engine/fault.h"
 #include "engine/group_reader.h"
@@ -16,6 +20,7 @@
 #include "engine/receptor_file.h"
 #include "engine/report_case.h"
 #include "engine/report_results.h"
+#include "engine/system_files.h"
 #include "engine/text.h"
 
 namespace korventally::engine {
@@ -34,6 +39,7 @@ std::unique_ptr<InputFile> openNamedFile(const std::string& path, std::size_t co
 
 std::vector<std::unique_ptr<InputFile>> openGroups(const Case& theCase) {
   std::vector<std::unique_ptr<InputFile>> files;
+  files.reserve(theCase.groups.size());
   for (const SourceGroup& group : theCase.groups) {
     files.push_back(openNamedFile(group.file, group.fileLine));
   }

@@ -1,6 +1,8 @@
 #include "engine/fields.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <string_view>
 
 namespace korventally::engine {
 namespace {

@@ -3,9 +3,19 @@
 #include <algorithm>
 #include <atomic>
 #include <condition_variable>
+#include <cstddef>
 #include <exception>
+#include <functional>
+#include <memory>
 #include <mutex>
+#include <span>
 #include <thread>
+#include <utility>
+#include <vector>
+
+#include "engine/blocks.h"
+#include "engine/concentration_file.h"
+#include "engine/system_files.h"
 
 namespace korventally::engine {
 namespace {

@@ -7,7 +7,9 @@
 #include <span>
 #include <vector>
 
+#include "engine/blocks.h"
 #include "engine/concentration_file.h"
+#include "engine/system_files.h"
 
 namespace korventally::engine {
 

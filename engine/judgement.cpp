@@ -1,7 +1,13 @@
 #include "engine/judgement.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <tuple>
+#include <vector>
+
+#include "engine/blocks.h"
+#include "engine/concentration_file.h"
+#include "engine/control_file.h"
 
 namespace korventally::engine {
 namespace {

@@ -1,9 +1,10 @@
 #include "engine/line_reader.h"
 
-#include <algorithm>
 #include <cstring>
+#include <string_view>
 
 #include "engine/fault.h"
+#include "engine/system_files.h"
 #include "engine/text.h"
 
 namespace korventally::engine {

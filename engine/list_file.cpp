@@ -1,8 +1,12 @@
 #include "engine/list_file.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <string>
+#include <string_view>
 
 #include "engine/fault.h"
+#include "engine/system_files.h"
 
 namespace korventally::engine {
 namespace {

@@ -6,7 +6,12 @@
 
 #include <atomic>
 #include <cerrno>
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
 #include <iterator>
+#include <string>
+#include <string_view>
 #include <system_error>
 
 #include "engine/fault.h"

@@ -1,13 +1,18 @@
 #include "engine/receptor_file.h"
 
 #include <cmath>
+#include <cstddef>
 #include <map>
 #include <optional>
+#include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "engine/fault.h"
 #include "engine/fields.h"
 #include "engine/line_reader.h"
+#include "engine/system_files.h"
 #include "engine/text.h"
 
 namespace korventally::engine {

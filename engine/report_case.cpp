@@ -1,9 +1,13 @@
 #include "engine/report_case.h"
 
 #include <chrono>
+#include <cstdint>
 #include <string>
 
+#include "engine/calendar.h"
 #include "engine/columns.h"
+#include "engine/control_file.h"
+#include "engine/list_file.h"
 #include "engine/text.h"
 #include "engine/version.h"
 

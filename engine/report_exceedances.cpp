@@ -1,8 +1,13 @@
 #include <algorithm>
+#include <cstddef>
+#include <cstdint>
 #include <string>
 #include <vector>
 
 #include "engine/columns.h"
+#include "engine/control_file.h"
+#include "engine/judgement.h"
+#include "engine/list_file.h"
 #include "engine/report_results.h"
 #include "engine/text.h"
 

@@ -1,8 +1,17 @@
 #include "engine/report_results.h"
 
+#include <cstddef>
 #include <cstdint>
+#include <string>
 
+#include "engine/blocks.h"
+#include "engine/calendar.h"
 #include "engine/columns.h"
+#include "engine/concentration_file.h"
+#include "engine/control_file.h"
+#include "engine/judgement.h"
+#include "engine/list_file.h"
+#include "engine/receptor_file.h"
 #include "engine/text.h"
 
 namespace korventally::engine {

@@ -1,9 +1,13 @@
 // The results in the list file: files, averages, maxima, counts, exceedances, warnings.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
+#include "engine/blocks.h"
+#include "engine/concentration_file.h"
+#include "engine/control_file.h"
 #include "engine/judgement.h"
 #include "engine/list_file.h"
 #include "engine/receptor_file.h"

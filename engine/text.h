@@ -1,7 +1,6 @@
 // Strict reading of numbers, and quoting for messages. No locale is ever asked.
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>

@@ -2,8 +2,11 @@
 
 #include <charconv>
 #include <cmath>
+#include <cstddef>
+#include <span>
 #include <string>
-#include <vector>
+#include <string_view>
+#include <system_error>
 
 #include "engine/fields.h"
 #include "engine/text.h"

@@ -3,8 +3,11 @@
 
 #include <atomic>
 #include <csignal>
+#include <cstdint>
 #include <cstdlib>
 #include <exception>
+#include <string>
+#include <string_view>
 
 #include "engine/fault.h"
 #include "engine/system_files.h"

@@ -1,6 +1,11 @@
 #include "info/frmAboutKORVENTALLY.h"
 
+#include <string>
+
 #include "case/basModule.h"
+#include "info/version.h"
+#include "platform/color.h"
+#include "platform/window.h"
 
 namespace korventally {
 
@@ -12,7 +17,7 @@ frmAboutKORVENTALLY::frmAboutKORVENTALLY() : Window(" About KORVENTALLY...", {42
 }
 
 void frmAboutKORVENTALLY::Form_Load() {
-  lblVersion.setText("Version1.2");
+  lblVersion.setText(std::string("Version") + kVersion);
   lblLevel.setText("March 27, 2009");
   chkDebug.setChecked(basModule::analysisCase.DebugMode);
 }

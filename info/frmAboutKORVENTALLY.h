@@ -2,6 +2,8 @@
 
 #include "platform/button.h"
 #include "platform/check_box.h"
+#include "platform/color.h"
+#include "platform/font.h"
 #include "platform/label.h"
 #include "platform/line.h"
 #include "platform/picture_box.h"

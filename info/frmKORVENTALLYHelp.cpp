@@ -1,5 +1,7 @@
 #include "info/frmKORVENTALLYHelp.h"
 
+#include "platform/window.h"
+
 namespace korventally {
 
 frmKORVENTALLYHelp::frmKORVENTALLYHelp() : Window(" KORVENTALLY Help", {6255, 7470}) {

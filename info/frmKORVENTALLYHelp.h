@@ -1,6 +1,8 @@
 #pragma once
 
 #include "platform/button.h"
+#include "platform/color.h"
+#include "platform/font.h"
 #include "platform/label.h"
 #include "platform/line.h"
 #include "platform/window.h"

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
+#include "case/basModule.h"
 #include "limits/species.h"
 
 namespace korventally {

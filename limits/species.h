@@ -2,7 +2,6 @@
 
 #include <array>
 #include <optional>
-#include <string_view>
 
 namespace korventally {
 

@@ -1,8 +1,13 @@
 #pragma once
 
+#include <string>
 #include <utility>
 
+#include "platform/color.h"
 #include "platform/container.h"
+#include "platform/control.h"
+#include "platform/font.h"
+#include "platform/geometry.h"
 
 namespace korventally {
 

@@ -1,8 +1,13 @@
 #include "platform/control.h"
 
+#include <functional>
+#include <string>
 #include <utility>
 
+#include "platform/color.h"
 #include "platform/container.h"
+#include "platform/font.h"
+#include "platform/geometry.h"
 #include "platform/guarded.h"
 #include "platform/window.h"
 

@@ -1,8 +1,12 @@
 #pragma once
 
+#include <string>
 #include <utility>
 
+#include "platform/color.h"
 #include "platform/container.h"
+#include "platform/font.h"
+#include "platform/geometry.h"
 
 namespace korventally {
 

@@ -1,6 +1,7 @@
 #include "platform/guarded.h"
 
 #include <exception>
+#include <functional>
 #include <new>
 #include <string>
 

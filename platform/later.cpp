@@ -1,6 +1,10 @@
 #include "platform/later.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
 #include <utility>
 #include <vector>
 

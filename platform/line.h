@@ -1,6 +1,10 @@
 #pragma once
 
+#include "platform/color.h"
 #include "platform/container.h"
+#include "platform/control.h"
+#include "platform/font.h"
+#include "platform/geometry.h"
 
 namespace korventally {
 

@@ -1,9 +1,15 @@
 #include "platform/option_button.h"
 
 #include <algorithm>
+#include <string>
 #include <utility>
 #include <vector>
 
+#include "platform/color.h"
+#include "platform/container.h"
+#include "platform/control.h"
+#include "platform/font.h"
+#include "platform/geometry.h"
 #include "platform/window.h"
 
 namespace korventally {

@@ -2,7 +2,11 @@
 
 #include <string>
 
+#include "platform/color.h"
 #include "platform/container.h"
+#include "platform/control.h"
+#include "platform/font.h"
+#include "platform/geometry.h"
 
 namespace korventally {
 

@@ -1,6 +1,9 @@
 #pragma once
 
 #include "platform/container.h"
+#include "platform/control.h"
+#include "platform/font.h"
+#include "platform/geometry.h"
 
 namespace korventally {
 

@@ -1,6 +1,13 @@
 #include "platform/text_box.h"
 
+#include <cstdint>
+#include <string>
 #include <utility>
+
+#include "platform/container.h"
+#include "platform/control.h"
+#include "platform/font.h"
+#include "platform/geometry.h"
 
 namespace korventally {
 namespace {

@@ -1,11 +1,18 @@
 #include "platform/window.h"
 
 #include <algorithm>
+#include <string>
 #include <utility>
+#include <vector>
 
+#include "platform/container.h"
+#include "platform/control.h"
 #include "platform/events.h"
+#include "platform/font.h"
+#include "platform/geometry.h"
 #include "platform/guarded.h"
 #include "platform/option_button.h"
+#include "platform/window_view.h"
 
 namespace korventally {
 namespace {

@@ -2,9 +2,12 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/container.h"
+#include "platform/control.h"
+#include "platform/geometry.h"
 #include "platform/menu.h"
 #include "platform/window_view.h"
 

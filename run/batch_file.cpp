@@ -1,6 +1,10 @@
 #include "run/batch_file.h"
 
+#include <string>
+#include <vector>
+
 #include "case/ModUtilities.h"
+#include "case/basModule.h"
 #include "case/run_files.h"
 #include "platform/process.h"
 #include "run/control_file.h"

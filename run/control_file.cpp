@@ -1,7 +1,13 @@
 #include "run/control_file.h"
 
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "case/basModule.h"
 #include "case/run_files.h"
 #include "platform/files.h"
+#include "platform/result.h"
 
 namespace korventally {
 namespace {

@@ -1,14 +1,22 @@
 #include "run/engine_run.h"
 
+#include <cstdint>
+#include <optional>
 #include <utility>
+#include <vector>
 
 #include "case/ModUtilities.h"
+#include "case/basModule.h"
 #include "case/failures.h"
 #include "platform/dialogs.h"
 #include "platform/events.h"
 #include "platform/files.h"
+#include "platform/label.h"
+#include "platform/process.h"
+#include "platform/result.h"
 #include "run/batch_file.h"
 #include "run/control_file.h"
+#include "run/verdict.h"
 
 namespace korventally {
 namespace {

@@ -1,8 +1,13 @@
+#include <cstdint>
+#include <functional>
+#include <string>
 #include <utility>
+#include <vector>
 
 #include "case/failures.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
+#include "platform/result.h"
 #include "run/batch_file.h"
 #include "run/control_file.h"
 #include "run/engine_run.h"

@@ -1,10 +1,15 @@
 #include "run/frmRunSummary.h"
 
+#include <cstdint>
 #include <utility>
 
 #include "case/ModUtilities.h"
+#include "case/basModule.h"
 #include "case/failures.h"
 #include "platform/dialogs.h"
+#include "platform/result.h"
+#include "run/engine_run.h"
+#include "run/verdict.h"
 
 namespace korventally {
 namespace {
@@ -20,7 +25,7 @@ frmRunSummary::frmRunSummary() : Window(" KORVENTALLY Run Information:", {6615, 
                &chkAutoOpen});
   const auto limitKey = [this](std::int16_t& keyCode) {
     FilterDecimalKey(keyCode);
-    MoveOnAtEnter(*this, keyCode);
+    moveOnAtEnter(*this, keyCode);
   };
   txtNAAQSPSDLimit.onKeyPress = limitKey;
   txtSILLimit.onKeyPress = limitKey;

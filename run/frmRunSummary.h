@@ -5,10 +5,13 @@
 
 #include "platform/button.h"
 #include "platform/check_box.h"
+#include "platform/color.h"
+#include "platform/font.h"
 #include "platform/label.h"
 #include "platform/text_box.h"
 #include "platform/window.h"
 #include "run/engine_run.h"
+#include "run/verdict.h"
 
 namespace korventally {
 

@@ -1,9 +1,15 @@
 #include "run/verdict.h"
 
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <stop_token>
+#include <string_view>
 #include <vector>
 
 #include "platform/events.h"
 #include "platform/files.h"
+#include "platform/result.h"
 
 namespace korventally {
 namespace {

@@ -52,36 +52,21 @@ need_packages() {
   [ ${#missing[@]} = 0 ] || stage "Installing ${missing[*]}" install install_packages "${missing[@]}"
 }
 
-# Configures a build folder once; afterwards ninja itself sees when that has to be done again.
-configure() { # folder, cmake options...
-  local folder=$1
-  shift
-  [ -f "$folder/build.ninja" ] || cmake -S "$root" -B "$folder" -G Ninja "$@"
+# Builds a preset's targets. It is configured once; afterwards ninja itself sees when that has to be
+# done again.
+build_preset() { # preset, targets...
+  local folder=$build/$1
+  [ -f "$folder/build.ninja" ] || cmake --preset "$1"
+  ninja -C "$folder" "${@:2}"
 }
 
-cross_build() { # targets...
-  configure "$build/windows" -DCMAKE_TOOLCHAIN_FILE="$root/cmake/mingw-w64-x86_64.cmake" \
-    -DCMAKE_BUILD_TYPE=Release
-  ninja -C "$build/windows" "$@"
-}
-
-# A program without its symbols, written again only when it has changed.
-install_program() { # built program
-  local target=$installation/${1##*/}
-  [ "$target" -nt "$1" ] || x86_64-w64-mingw32-strip -o "$target" "$1"
-}
-
-install_programs() {
-  mkdir -p "$installation"
-  install_program "$build/windows/KorvenTallyWizard.exe"
-  install_program "$build/windows/engine/korventally.exe"
-}
+cross_build() { build_preset windows "$@"; }
 
 # The program as a user gets it, in dist/KorvenTally/.
 build_program() {
   stage "Cross-building the wizard and the engine for Windows" build-windows \
     cross_build KorvenTallyWizard korventally
-  stage "Putting them into dist/KorvenTally/" install-programs install_programs
+  stage "Putting them into dist/KorvenTally/" install cmake --install "$build/windows" --strip
 }
 
 # A folder as a program under Wine names it.

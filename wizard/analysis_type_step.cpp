@@ -2,10 +2,22 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cstdint>
 #include <optional>
+#include <string>
+#include <system_error>
+#include <vector>
 
+#include "case/ModUtilities.h"
 #include "case/basModule.h"
+#include "limits/species.h"
+#include "platform/button.h"
+#include "platform/color.h"
+#include "platform/control.h"
 #include "platform/dialogs.h"
+#include "platform/frame.h"
+#include "wizard/step_host.h"
+#include "wizard/wizard_step.h"
 
 namespace korventally {
 namespace {
@@ -169,11 +181,11 @@ void AnalysisTypeStep::DisableAnalysisSubFrames() {
   }
 }
 
-void AnalysisTypeStep::cmdPrevious2_Click() { wizard.goBackFrom(*this); }
+void AnalysisTypeStep::cmdPrevious2_Click() { wizard_.goBackFrom(*this); }
 
 void AnalysisTypeStep::cmdNext2_Click() {
   if (species().limitsFor(period()) == nullptr) {
-    messageBox(&wizard, species().refusal, kErrorTitle);
+    messageBox(&wizard_, species().refusal, kErrorTitle);
     return;
   }
   const std::optional<std::int32_t> others = otherGroups(txtNumOfOthers.text());
@@ -184,7 +196,7 @@ void AnalysisTypeStep::cmdNext2_Click() {
   // Not ClearFieldHighlight: an emptied box is right here, and must not stay marked.
   txtNumOfOthers.setBackColor(colors::kWhite);
   basModule::analysisCase.GroupCount = *others + kFixedGroups;
-  wizard.goForwardFrom(*this);
+  wizard_.goForwardFrom(*this);
 }
 
 bool AnalysisTypeStep::capture(AnalysisCase& into) {

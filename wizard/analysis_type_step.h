@@ -4,7 +4,21 @@
 #include <utility>
 #include <vector>
 
+#include "case/ModUtilities.h"
+#include "case/basModule.h"
 #include "limits/species.h"
+#include "platform/button.h"
+#include "platform/color.h"
+#include "platform/container.h"
+#include "platform/control.h"
+#include "platform/font.h"
+#include "platform/frame.h"
+#include "platform/geometry.h"
+#include "platform/label.h"
+#include "platform/line.h"
+#include "platform/option_button.h"
+#include "platform/text_box.h"
+#include "wizard/step_host.h"
 #include "wizard/wizard_step.h"
 
 namespace korventally {
@@ -51,7 +65,7 @@ class AnalysisTypeStep : public WizardStep {
   explicit AnalysisTypeStep(StepHost& host);
 
   StepFrame frameAnalysisType{
-      wizard, {120, 1080, 11295, 1935}, "SELECT THE TYPE OF ANALYSIS TO PERFORM:"};
+      wizard_, {120, 1080, 11295, 1935}, "SELECT THE TYPE OF ANALYSIS TO PERFORM:"};
 
   Frame frameArea{frameAnalysisType, {240, 360, 1380, 1410}, "AREA:"};
   SubFrameOption optClassI{frameArea, {150, 330, 1140, 255}, kClassI, true};
@@ -85,7 +99,7 @@ class AnalysisTypeStep : public WizardStep {
       frameAnalysisType, {9060, 555, 1995, 420}, "Number of OTHER Source Groups to Analyze"};
   TextBox txtNumOfOthers{frameAnalysisType, {9060, 1080, 975, 315}};
 
-  NavigationColumn Frame4{wizard, {11640, 1080, 1455, 1935}};
+  NavigationColumn Frame4{wizard_, {11640, 1080, 1455, 1935}};
   Button cmdPrevious2{Frame4, {240, 540, 1000, 315}, "PREVIOUS"};
   Button cmdNext2{Frame4, {240, 1080, 1000, 315}, "NEXT", fonts::kBold};
 

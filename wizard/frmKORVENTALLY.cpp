@@ -1,11 +1,17 @@
 #include "wizard/frmKORVENTALLY.h"
 
 #include <algorithm>
-#include <ranges>
+#include <iterator>
+#include <vector>
 
+#include "case/ModUtilities.h"
 #include "case/basModule.h"
 #include "limits/limits.h"
+#include "platform/container.h"
+#include "platform/control.h"
 #include "run/frmRunSummary.h"
+#include "wizard/step_host.h"
+#include "wizard/wizard_step.h"
 
 namespace korventally {
 namespace {
@@ -30,7 +36,8 @@ frmKORVENTALLY::frmKORVENTALLY()
   cmdBackToTop.onClick = [this] { cmdBackToTop_Click(); };
   cmdRUN.onClick = [this] { cmdRUN_Click(); };
   cmdCancel.onClick = [this] { cmdCancel_Click(); };
-  for (WizardStep* step : steps_ | std::views::drop(1)) {
+  for (WizardStep* step : steps_) {
+    if (step == steps_.front()) continue;
     DisableStep(step->controls(), step->fields());
     step->closed(WizardStep::Way::kBack);
   }
@@ -47,7 +54,8 @@ std::vector<Control*> frmKORVENTALLY::wholeTabOrder() {
     if (step == steps_.back()) append({&cmdRUN, &cmdCancel});
     append(step->tabStops());
   }
-  for (WizardStep* step : steps_ | std::views::reverse) append(step->tabStopsBack());
+  std::for_each(steps_.rbegin(), steps_.rend(),
+                [&](WizardStep* step) { append(step->tabStopsBack()); });
   append({&cmdBackToTop});
   return order;
 }

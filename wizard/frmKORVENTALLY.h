@@ -5,7 +5,11 @@
 
 #include "info/frmAboutKORVENTALLY.h"
 #include "info/frmKORVENTALLYHelp.h"
+#include "platform/button.h"
+#include "platform/control.h"
 #include "platform/dialogs.h"
+#include "platform/font.h"
+#include "platform/menu.h"
 #include "platform/picture_box.h"
 #include "wizard/analysis_type_step.h"
 #include "wizard/output_file_step.h"

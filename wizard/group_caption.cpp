@@ -1,9 +1,13 @@
 #include "wizard/group_caption.h"
 
 #include <charconv>
+#include <cstddef>
+#include <cstdint>
+#include <string>
 
 #include "case/ModUtilities.h"
 #include "case/basModule.h"
+#include "platform/frame.h"
 
 namespace korventally {
 namespace {

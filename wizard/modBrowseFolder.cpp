@@ -1,5 +1,10 @@
 #include "wizard/modBrowseFolder.h"
 
+#include <cstdint>
+#include <string>
+
+#include "platform/folder_browser.h"
+
 namespace korventally {
 
 std::string BrowseForFolder(const std::string& initialPath, const std::string& title,

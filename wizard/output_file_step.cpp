@@ -1,8 +1,17 @@
 #include "wizard/output_file_step.h"
 
+#include <string>
+#include <vector>
+
+#include "case/ModUtilities.h"
+#include "case/basModule.h"
+#include "case/run_files.h"
+#include "platform/button.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
 #include "wizard/list_file_name.h"
+#include "wizard/step_host.h"
+#include "wizard/wizard_step.h"
 
 namespace korventally {
 namespace {
@@ -28,7 +37,7 @@ OutputFileStep::OutputFileStep(StepHost& host, Button& cmdRUN)
 
 void OutputFileStep::cmdDefault_LST_Click() { txtLSTFilename.setText(kDefaultListFile); }
 
-void OutputFileStep::cmdPrevious5_Click() { wizard.goBackFrom(*this); }
+void OutputFileStep::cmdPrevious5_Click() { wizard_.goBackFrom(*this); }
 
 bool OutputFileStep::capture(AnalysisCase& into) {
   if (!checkListFile(into)) return false;
@@ -55,7 +64,7 @@ bool OutputFileStep::checkListFile(const AnalysisCase& captured) {
 bool OutputFileStep::askToOverwrite() {
   HighlightField(txtLSTFilename);
   const Answer overwrite = messageBox(
-      &wizard, "The selected output filename already exists. Do you wish to overwrite it?",
+      &wizard_, "The selected output filename already exists. Do you wish to overwrite it?",
       kWarningTitle, Buttons::kYesNo);
   if (overwrite == Answer::kNo) offerToCorrect(txtLSTFilename);
   return overwrite == Answer::kYes;

@@ -2,7 +2,15 @@
 
 #include <vector>
 
+#include "case/ModUtilities.h"
+#include "case/basModule.h"
 #include "case/run_files.h"
+#include "platform/button.h"
+#include "platform/control.h"
+#include "platform/frame.h"
+#include "platform/label.h"
+#include "platform/text_box.h"
+#include "wizard/step_host.h"
 #include "wizard/wizard_step.h"
 
 namespace korventally {
@@ -12,12 +20,12 @@ class OutputFileStep : public WizardStep {
  public:
   OutputFileStep(StepHost& host, Button& cmdRUN);
 
-  StepFrame frameOutputFile{wizard, {120, 8520, 11295, 855}, "OUTPUT RESULTS FILE:"};
+  StepFrame frameOutputFile{wizard_, {120, 8520, 11295, 855}, "OUTPUT RESULTS FILE:"};
   Label lblLSTFilename{frameOutputFile, {420, 415, 1095, 255}, "List Filename:"};
   TextBox txtLSTFilename{frameOutputFile, {1440, 380, 8535, 315}, kDefaultListFile, 132};
   Button cmdDefault_LST{frameOutputFile, {10080, 360, 975, 315}, "Default"};
 
-  NavigationColumn Frame7{wizard, {11640, 8520, 1455, 855}};
+  NavigationColumn Frame7{wizard_, {11640, 8520, 1455, 855}};
   Button cmdPrevious5{Frame7, {240, 340, 1000, 315}, "PREVIOUS"};
 
   const ControlGroup OutputFileControls;

@@ -2,10 +2,20 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
 
+#include "case/ModUtilities.h"
+#include "case/basModule.h"
 #include "limits/species.h"
+#include "platform/control.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
+#include "platform/text_box.h"
+#include "wizard/step_host.h"
+#include "wizard/wizard_step.h"
 
 namespace korventally {
 namespace {
@@ -79,7 +89,7 @@ void ProcessingInfoStep::txtRunLength_KeyPress(std::int16_t& keyCode) { takeDigi
 
 void ProcessingInfoStep::takeDigitsOnly(std::int16_t& keyCode) {
   FilterDigitKey(keyCode);
-  MoveOnAtEnter(wizard, keyCode);
+  moveOnAtEnter(wizard_, keyCode);
 }
 
 std::vector<Control*> ProcessingInfoStep::tabStops() {
@@ -99,12 +109,12 @@ std::vector<Control*> ProcessingInfoStep::tabStops() {
 
 void ProcessingInfoStep::cmdBrowseReceptorDAT_Click() {
   txtReceptorDATFile.setText(
-      wizard.askForFile("Receptor DAT File (*.dat) | *.dat; |"
-                        "All Files (*.*) | *.*"));
+      wizard_.askForFile("Receptor DAT File (*.dat) | *.dat; |"
+                         "All Files (*.*) | *.*"));
   ClearFieldHighlight(txtReceptorDATFile);
 }
 
-void ProcessingInfoStep::cmdPrevious4_Click() { wizard.goBackFrom(*this); }
+void ProcessingInfoStep::cmdPrevious4_Click() { wizard_.goBackFrom(*this); }
 
 void ProcessingInfoStep::cmdNext4_Click() {
   const bool passed = checkReceptorFile() && checkYear() &&
@@ -112,7 +122,7 @@ void ProcessingInfoStep::cmdNext4_Click() {
                       checkFilledIn(txtDay, "Please enter a Day for the start time.") &&
                       checkFilledIn(txtHour, "Please enter an Hour for the start time.") &&
                       checkFilledIn(txtRunLength, "Please enter a Run Length.");
-  if (passed) wizard.goForwardFrom(*this);
+  if (passed) wizard_.goForwardFrom(*this);
 }
 
 bool ProcessingInfoStep::checkReceptorFile() {
@@ -170,7 +180,7 @@ bool ProcessingInfoStep::capture(AnalysisCase& into) {
 bool ProcessingInfoStep::refuseAnnualYear() {
   HighlightField(txtYear);
   DisableField(txtYear);
-  messageBox(&wizard, kYearFormat, kErrorTitle);
+  messageBox(&wizard_, kYearFormat, kErrorTitle);
   return false;
 }
 

@@ -4,6 +4,19 @@
 #include <string>
 #include <vector>
 
+#include "case/ModUtilities.h"
+#include "case/basModule.h"
+#include "platform/button.h"
+#include "platform/container.h"
+#include "platform/control.h"
+#include "platform/font.h"
+#include "platform/frame.h"
+#include "platform/geometry.h"
+#include "platform/label.h"
+#include "platform/line.h"
+#include "platform/option_button.h"
+#include "platform/text_box.h"
+#include "wizard/step_host.h"
 #include "wizard/wizard_step.h"
 
 namespace korventally {
@@ -22,7 +35,7 @@ class ProcessingInfoStep : public WizardStep {
  public:
   explicit ProcessingInfoStep(StepHost& host);
 
-  StepFrame frameProcessingInfo{wizard, {120, 5880, 11295, 2535}, "PROCESSING INFORMATION:"};
+  StepFrame frameProcessingInfo{wizard_, {120, 5880, 11295, 2535}, "PROCESSING INFORMATION:"};
 
   Frame frameReceptorDATFormat{
       frameProcessingInfo, {360, 325, 6615, 2070}, "File with Receptors to be Processed:"};
@@ -53,7 +66,7 @@ class ProcessingInfoStep : public WizardStep {
   OptionButton optRank1_Include{frameRank1Values, {670, 320, 855, 210}, "Include", true};
   OptionButton optRank1_Exclude{frameRank1Values, {1870, 320, 975, 210}, "Exclude"};
 
-  NavigationColumn Frame6{wizard, {11640, 5880, 1455, 2535}};
+  NavigationColumn Frame6{wizard_, {11640, 5880, 1455, 2535}};
   Button cmdPrevious4{Frame6, {240, 840, 1000, 315}, "PREVIOUS"};
   Button cmdNext4{Frame6, {240, 1380, 1000, 315}, "NEXT", fonts::kBold};
 

@@ -1,8 +1,17 @@
 #include "wizard/source_groups_step.h"
 
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "case/ModUtilities.h"
 #include "case/basModule.h"
-#include "platform/dialogs.h"
+#include "platform/color.h"
+#include "platform/control.h"
 #include "platform/files.h"
+#include "wizard/group_caption.h"
+#include "wizard/step_host.h"
+#include "wizard/wizard_step.h"
 
 namespace korventally {
 namespace {
@@ -144,12 +153,12 @@ void SourceGroupsStep::cmdNext3_Click() {
   ValidateConcFile();
   if (ConcFileInvalid) return;
   StoreGroupPage(CurrentGroup);
-  wizard.goForwardFrom(*this);
+  wizard_.goForwardFrom(*this);
 }
 
 void SourceGroupsStep::cmdPrevious3_Click() {
   txtConcFile.setBackColor(colors::kWhite);
-  wizard.goBackFrom(*this);
+  wizard_.goBackFrom(*this);
 }
 
 void SourceGroupsStep::cmdBrowseFile_Click() {
@@ -160,7 +169,7 @@ void SourceGroupsStep::cmdBrowseFile_Click() {
 }
 
 const std::string& SourceGroupsStep::ShowConcFileDialog() {
-  return wizard.askForFile(
+  return wizard_.askForFile(
       "Concentration File (*.con) | *.con; |"
       "Concentration File (*.dat) | *.dat; |"
       "All Files (*.*) | *.*");

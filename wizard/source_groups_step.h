@@ -4,7 +4,15 @@
 #include <string>
 #include <vector>
 
-#include "wizard/group_caption.h"
+#include "case/ModUtilities.h"
+#include "case/basModule.h"
+#include "platform/button.h"
+#include "platform/control.h"
+#include "platform/font.h"
+#include "platform/frame.h"
+#include "platform/label.h"
+#include "platform/text_box.h"
+#include "wizard/step_host.h"
 #include "wizard/wizard_step.h"
 
 namespace korventally {
@@ -15,7 +23,7 @@ class SourceGroupsStep : public WizardStep {
  public:
   explicit SourceGroupsStep(StepHost& host);
 
-  StepFrame frameSourceGroupInfo{wizard, {120, 3120, 11295, 2655}, ""};
+  StepFrame frameSourceGroupInfo{wizard_, {120, 3120, 11295, 2655}, ""};
 
   Label lblConcFile{
       frameSourceGroupInfo, {240, 435, 1695, 255}, "Concentration File:", Align::kRight};
@@ -52,7 +60,7 @@ class SourceGroupsStep : public WizardStep {
                       fonts::kDefault,
                       Button::Style::kGraphical};
 
-  NavigationColumn Frame1{wizard, {11640, 3120, 1455, 2655}};
+  NavigationColumn Frame1{wizard_, {11640, 3120, 1455, 2655}};
   Button cmdPrevious3{Frame1, {240, 900, 1000, 315}, "PREVIOUS"};
   Button cmdNext3{Frame1, {240, 1440, 1000, 315}, "NEXT", fonts::kBold};
 

@@ -1,17 +1,21 @@
 #include "wizard/wizard_step.h"
 
+#include <string>
+
+#include "case/ModUtilities.h"
 #include "platform/dialogs.h"
+#include "platform/text_box.h"
 
 namespace korventally {
 
 void WizardStep::refuse(TextBox& box, const std::string& message) {
   HighlightField(box);
-  messageBox(&wizard, message, kErrorTitle);
+  messageBox(&wizard_, message, kErrorTitle);
   offerToCorrect(box);
 }
 
 void WizardStep::offerToCorrect(TextBox& box) {
-  wizard.setFocus(box);
+  wizard_.setFocus(box);
   box.selectAll();
 }
 

@@ -6,11 +6,12 @@
 
 #include "case/ModUtilities.h"
 #include "case/basModule.h"
-#include "platform/button.h"
+#include "platform/color.h"
+#include "platform/container.h"
+#include "platform/control.h"
+#include "platform/font.h"
 #include "platform/frame.h"
-#include "platform/label.h"
-#include "platform/line.h"
-#include "platform/option_button.h"
+#include "platform/geometry.h"
 #include "platform/text_box.h"
 #include "wizard/step_host.h"
 
@@ -62,7 +63,7 @@ class WizardStep {
   virtual bool capture(AnalysisCase& into) = 0;
 
  protected:
-  explicit WizardStep(StepHost& host) : wizard(host) {}
+  explicit WizardStep(StepHost& host) : wizard_(host) {}
 
   /// Marks the box, says what is wrong and puts the focus into the box.
   void refuse(TextBox& box, const std::string& message);
@@ -70,7 +71,7 @@ class WizardStep {
   /// Puts the focus into the box with its text selected, for another one to be typed.
   void offerToCorrect(TextBox& box);
 
-  StepHost& wizard;
+  StepHost& wizard_;
 };
 
 }  // namespace korventally

@@ -1,7 +1,11 @@
 #include "wizard/working_directory_step.h"
 
+#include "case/ModUtilities.h"
+#include "case/basModule.h"
 #include "platform/files.h"
 #include "wizard/modBrowseFolder.h"
+#include "wizard/step_host.h"
+#include "wizard/wizard_step.h"
 
 namespace korventally {
 
@@ -16,7 +20,7 @@ WorkingDirectoryStep::WorkingDirectoryStep(StepHost& host) : WizardStep(host) {
 void WorkingDirectoryStep::cmdBrowseWorkDir_Click() {
   constexpr bool kNewDialogStyle = true;
   txtWorkDir.setText(BrowseForFolder(trimBlanks(txtWorkDir.text()),
-                                     "Select a Working Directory:", kNewDialogStyle, wizard));
+                                     "Select a Working Directory:", kNewDialogStyle, wizard_));
   ClearFieldHighlight(txtWorkDir);
 }
 
@@ -33,7 +37,7 @@ void WorkingDirectoryStep::cmdNext1_Click() {
     return refuse(txtWorkDir, "Selected Working Directory does not exist.");
   }
   ClearFieldHighlight(txtWorkDir);
-  wizard.goForwardFrom(*this);
+  wizard_.goForwardFrom(*this);
 }
 
 bool WorkingDirectoryStep::capture(AnalysisCase& into) {

@@ -3,6 +3,14 @@
 #include <string>
 #include <vector>
 
+#include "case/ModUtilities.h"
+#include "case/basModule.h"
+#include "platform/button.h"
+#include "platform/control.h"
+#include "platform/font.h"
+#include "platform/frame.h"
+#include "platform/text_box.h"
+#include "wizard/step_host.h"
 #include "wizard/wizard_step.h"
 
 namespace korventally {
@@ -12,11 +20,11 @@ class WorkingDirectoryStep : public WizardStep {
  public:
   explicit WorkingDirectoryStep(StepHost& host);
 
-  StepFrame frameWorkingDirectory{wizard, {120, 120, 11295, 855}, "WORKING DIRECTORY:"};
+  StepFrame frameWorkingDirectory{wizard_, {120, 120, 11295, 855}, "WORKING DIRECTORY:"};
   TextBox txtWorkDir{frameWorkingDirectory, {360, 360, 9615, 315}};
   Button cmdBrowseWorkDir{frameWorkingDirectory, {10080, 340, 975, 315}, "Browse"};
 
-  NavigationColumn Frame2{wizard, {11640, 120, 1455, 855}};
+  NavigationColumn Frame2{wizard_, {11640, 120, 1455, 855}};
   Button cmdNext1{Frame2, {240, 340, 1000, 315}, "NEXT", fonts::kBold};
 
   const ControlGroup WorkingDirectoryControls{&frameWorkingDirectory, &cmdBrowseWorkDir, &cmdNext1};

@@ -1,9 +1,12 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <string>
+#include <string_view>
 
 #include "platform/files.h"
 #include "platform/headless/utf8.h"
+#include "platform/result.h"
 
 namespace korventally {
 namespace {

@@ -1,11 +1,18 @@
 #include "platform/headless/batch_process.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
 #include <utility>
+#include <vector>
 
 #include "platform/files.h"
 #include "platform/headless/command_line.h"
+#include "platform/headless/desktop.h"
 #include "platform/headless/engine_process.h"
+#include "platform/headless/path.h"
 #include "platform/headless/world.h"
 
 namespace korventally::headless {

@@ -1,5 +1,7 @@
 #include "platform/headless/clock.h"
 
+#include <cstdint>
+#include <functional>
 #include <stdexcept>
 #include <utility>
 

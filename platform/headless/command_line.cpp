@@ -1,6 +1,11 @@
 #include "platform/headless/command_line.h"
 
 #include <cctype>
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
 
 namespace korventally::headless {
 namespace {

@@ -1,14 +1,24 @@
 #include "platform/headless/desktop.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <functional>
+#include <memory>
+#include <optional>
 #include <stdexcept>
+#include <string>
 #include <utility>
+#include <vector>
 
+#include "platform/dialogs.h"
 #include "platform/events.h"
+#include "platform/headless/path.h"
 #include "platform/headless/world.h"
 #include "platform/later.h"
+#include "platform/process.h"
+#include "platform/result.h"
 #include "platform/window.h"
 
 namespace korventally {

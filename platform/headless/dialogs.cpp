@@ -1,5 +1,6 @@
 #include "platform/dialogs.h"
 
+#include <string>
 #include <utility>
 
 #include "platform/headless/world.h"

@@ -1,7 +1,11 @@
 #include "platform/headless/engine_process.h"
 
+#include <cstdint>
+#include <functional>
+#include <string>
 #include <utility>
 
+#include "platform/headless/desktop.h"
 #include "platform/headless/world.h"
 
 namespace korventally::headless {

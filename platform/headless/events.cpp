@@ -1,7 +1,10 @@
 #include "platform/events.h"
 
+#include <cstdint>
+#include <functional>
 #include <utility>
 
+#include "platform/headless/desktop.h"
 #include "platform/headless/world.h"
 #include "platform/later.h"
 #include "platform/window.h"

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/headless/desktop.h"
+#include "platform/result.h"
 
 namespace korventally::headless {
 

@@ -1,6 +1,11 @@
 #include "platform/headless/file_system.h"
 
+#include <memory>
+#include <string>
 #include <utility>
+#include <vector>
+
+#include "platform/headless/path.h"
 
 namespace korventally::headless {
 

@@ -3,12 +3,10 @@
 #include <cstdint>
 #include <map>
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
 #include "platform/headless/desktop.h"
-#include "platform/headless/path.h"
 
 namespace korventally::headless {
 

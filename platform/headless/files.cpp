@@ -1,9 +1,18 @@
 #include "platform/files.h"
 
-#include <algorithm>
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
 #include <utility>
+#include <vector>
 
+#include "platform/headless/desktop.h"
+#include "platform/headless/file_system.h"
+#include "platform/headless/path.h"
 #include "platform/headless/world.h"
+#include "platform/result.h"
 
 namespace korventally {
 namespace {

@@ -1,5 +1,7 @@
 #include "platform/folder_browser.h"
 
+#include <memory>
+#include <string>
 #include <utility>
 
 #include "platform/headless/world.h"

@@ -2,8 +2,12 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cstddef>
 #include <map>
+#include <string>
 #include <vector>
+
+#include "platform/result.h"
 
 namespace korventally::headless {
 namespace {
@@ -68,7 +72,7 @@ std::string foldCase(std::string name) {
 }
 
 Error systemError(long code, const std::string& path) {
-  static const std::map<long, const char*> sentences = {
+  static const std::map<long, const char*> kSentences = {
       {2, "The system cannot find the file specified."},
       {3, "The system cannot find the path specified."},
       {5, "Access is denied."},
@@ -79,7 +83,7 @@ Error systemError(long code, const std::string& path) {
   ErrorKind kind = ErrorKind::kOther;
   if (code == 2 || code == 3) kind = ErrorKind::kNotFound;
   if (code == 32) kind = ErrorKind::kBusy;
-  return {kind, code, sentences.at(code), path};
+  return {kind, code, kSentences.at(code), path};
 }
 
 }  // namespace korventally::headless

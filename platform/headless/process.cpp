@@ -1,8 +1,12 @@
 #include "platform/process.h"
 
+#include <memory>
+#include <string>
 #include <utility>
 
+#include "platform/headless/batch_process.h"
 #include "platform/headless/world.h"
+#include "platform/result.h"
 
 namespace korventally {
 namespace {

@@ -1,6 +1,9 @@
 #include "platform/headless/utf8.h"
 
 #include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
 
 namespace korventally::headless {
 namespace {

@@ -1,8 +1,12 @@
 #include "platform/window_view.h"
 
-#include <algorithm>
+#include <functional>
+#include <memory>
 #include <utility>
+#include <vector>
 
+#include "platform/control.h"
+#include "platform/headless/desktop.h"
 #include "platform/headless/world.h"
 
 namespace korventally {

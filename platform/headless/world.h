@@ -1,16 +1,18 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <memory>
 #include <string>
-#include <utility>
 #include <vector>
 
+#include "platform/dialogs.h"
 #include "platform/headless/batch_process.h"
 #include "platform/headless/clock.h"
 #include "platform/headless/desktop.h"
 #include "platform/headless/faults.h"
 #include "platform/headless/file_system.h"
+#include "platform/process.h"
 
 namespace korventally {
 

@@ -27,8 +27,8 @@ class SimulatedDesktop : public ::testing::Test {
   /// Runs a batch file of that one line.
   std::unique_ptr<BatchRun> run(const std::string& line) {
     desktop->putFile("C:\\Study\\run.bat", line + "\r\n");
-    return std::move(
-        startBatchFile("C:\\Study\\run.bat", WindowStyle::kHidden, StartFolder::kCurrent).value());
+    return startBatchFile("C:\\Study\\run.bat", WindowStyle::kHidden, StartFolder::kCurrent)
+        .value();
   }
 
   const std::function<void(const std::string&)> asBefore = Desktop::onFailure;

@@ -68,14 +68,16 @@ TEST_F(OutputFile, CapturesTheOtherChoiceOfEveryOption) {
 }
 
 TEST_F(OutputFile, CountsTheHoursOfTheYear) {
-  for (const auto& [year, hours] :
-       {std::pair{"2008", "8784"}, {"2009", "8760"}, {"1900", "8784"}, {"0000", "8784"}}) {
+  const struct {
+    const char *year, *hours;
+  } rows[] = {{"2008", "8784"}, {"2009", "8760"}, {"1900", "8784"}, {"0000", "8784"}};
+  for (const auto& row : rows) {
     capture([&](frmKORVENTALLY& w) {
       w.analysisType.optNOX.select();
       w.analysisType.optAnnual.select();
-      w.processingInfo.txtYear.setText(year);
+      w.processingInfo.txtYear.setText(row.year);
     });
-    EXPECT_EQ(theCase.AveragingHours, hours) << year;
+    EXPECT_EQ(theCase.AveragingHours, row.hours) << row.year;
     EXPECT_EQ(theCase.Species, "NOX");
   }
 }

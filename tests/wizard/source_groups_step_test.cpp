@@ -1,4 +1,5 @@
 #include "tests/study.h"
+#include "wizard/group_caption.h"
 
 namespace korventally::testing {
 namespace {

@@ -1,6 +1,8 @@
 #include "platform/win32/system/dialog_filter.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <string>
 
 namespace korventally::win32 {
 namespace {

@@ -4,6 +4,8 @@
 // clang-format off
 #include <windows.h>
 #include <commdlg.h>
+#include <cstddef>
+#include <string>
 // clang-format on
 
 #include "platform/win32/system/dialog_filter.h"

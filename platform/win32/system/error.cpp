@@ -1,5 +1,9 @@
 #include "platform/win32/system/error.h"
 
+#include <iterator>
+#include <string>
+
+#include "platform/result.h"
 #include "platform/win32/system/path.h"
 #include "platform/win32/system/text.h"
 

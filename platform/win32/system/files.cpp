@@ -3,8 +3,15 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <cstddef>
+#include <memory>
 #include <optional>
+#include <span>
+#include <string>
+#include <utility>
+#include <vector>
 
+#include "platform/result.h"
 #include "platform/win32/system/error.h"
 #include "platform/win32/system/handle.h"
 #include "platform/win32/system/path.h"

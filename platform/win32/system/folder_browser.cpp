@@ -9,6 +9,7 @@
 // clang-format on
 
 #include <iterator>
+#include <string>
 
 #include "platform/win32/system/text.h"
 #include "platform/win32/ui/native_lookup.h"

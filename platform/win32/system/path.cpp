@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <string>
+
 #include "platform/win32/system/text.h"
 
 namespace korventally::win32 {

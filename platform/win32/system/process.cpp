@@ -2,6 +2,11 @@
 
 #include <windows.h>
 
+#include <memory>
+#include <string>
+#include <utility>
+
+#include "platform/result.h"
 #include "platform/win32/system/environment.h"
 #include "platform/win32/system/error.h"
 #include "platform/win32/system/handle.h"

@@ -2,7 +2,11 @@
 
 #include <windows.h>
 
+#include <cstddef>
 #include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
 
 #include "platform/files.h"
 #include "platform/result.h"

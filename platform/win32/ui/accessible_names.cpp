@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <iterator>
+#include <string>
 #include <utility>
 
 #include "platform/win32/system/text.h"
+#include "platform/win32/ui/system_headers.h"
 
 namespace korventally::win32 {
 namespace {

@@ -1,7 +1,14 @@
 #include "platform/button.h"
 
+#include <memory>
+#include <string>
+
+#include "platform/color.h"
 #include "platform/win32/ui/colors.h"
+#include "platform/win32/ui/gdi.h"
+#include "platform/win32/ui/native_control.h"
 #include "platform/win32/ui/painted_control.h"
+#include "platform/win32/ui/system_headers.h"
 #include "platform/win32/ui/theme.h"
 
 namespace korventally::win32 {

@@ -1,7 +1,10 @@
 #include "platform/check_box.h"
 
+#include <memory>
+
 #include "platform/win32/ui/choice_control.h"
-#include "platform/win32/ui/theme.h"
+#include "platform/win32/ui/native_control.h"
+#include "platform/win32/ui/system_headers.h"
 
 namespace korventally::win32 {
 namespace {

@@ -1,5 +1,8 @@
 #include "platform/win32/ui/clipboard.h"
 
+#include <string>
+#include <string_view>
+
 namespace korventally::win32 {
 
 std::wstring clipboardText(HWND window) {

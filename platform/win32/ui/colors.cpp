@@ -1,5 +1,6 @@
 #include "platform/win32/ui/colors.h"
 
+#include "platform/color.h"
 #include "platform/contrast.h"
 
 namespace korventally::win32 {

@@ -3,7 +3,9 @@
 #include <optional>
 
 #include "platform/button.h"
+#include "platform/control.h"
 #include "platform/option_button.h"
+#include "platform/win32/ui/native_control.h"
 #include "platform/win32/ui/native_window.h"
 
 namespace korventally::win32 {

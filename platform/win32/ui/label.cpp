@@ -1,5 +1,8 @@
 #include "platform/label.h"
 
+#include <memory>
+
+#include "platform/control.h"
 #include "platform/win32/ui/native_control.h"
 
 namespace korventally::win32 {

@@ -1,8 +1,12 @@
 #include "platform/line.h"
 
 #include <algorithm>
+#include <memory>
 
+#include "platform/color.h"
 #include "platform/win32/ui/colors.h"
+#include "platform/win32/ui/gdi.h"
+#include "platform/win32/ui/native_control.h"
 #include "platform/win32/ui/painted_control.h"
 
 namespace korventally::win32 {

@@ -1,6 +1,7 @@
 #include "platform/win32/ui/menu_bar.h"
 
 #include "platform/guarded.h"
+#include "platform/menu.h"
 #include "platform/win32/system/text.h"
 
 namespace korventally::win32 {

@@ -1,6 +1,11 @@
 #include "platform/win32/ui/native_control.h"
 
+#include <optional>
+
+#include "platform/color.h"
 #include "platform/container.h"
+#include "platform/control.h"
+#include "platform/geometry.h"
 #include "platform/win32/system/text.h"
 #include "platform/win32/ui/colors.h"
 #include "platform/win32/ui/system_headers.h"

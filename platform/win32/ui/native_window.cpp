@@ -1,11 +1,14 @@
 #include "platform/win32/ui/native_window.h"
 
 #include <algorithm>
+#include <memory>
 #include <vector>
 
 #include "platform/button.h"
 #include "platform/check_box.h"
+#include "platform/control.h"
 #include "platform/frame.h"
+#include "platform/geometry.h"
 #include "platform/label.h"
 #include "platform/line.h"
 #include "platform/option_button.h"
@@ -14,8 +17,10 @@
 #include "platform/win32/system/text.h"
 #include "platform/win32/ui/dpi.h"
 #include "platform/win32/ui/menu_bar.h"
+#include "platform/win32/ui/native_control.h"
 #include "platform/win32/ui/native_lookup.h"
 #include "platform/win32/ui/resource_ids.h"
+#include "platform/window.h"
 
 namespace korventally::win32 {
 namespace {

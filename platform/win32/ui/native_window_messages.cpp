@@ -1,9 +1,10 @@
+#include <optional>
 #include <utility>
 
 #include "platform/win32/ui/colors.h"
-#include "platform/win32/ui/dpi.h"
 #include "platform/win32/ui/gdi.h"
 #include "platform/win32/ui/menu_bar.h"
+#include "platform/win32/ui/native_control.h"
 #include "platform/win32/ui/native_window.h"
 #include "platform/win32/ui/session.h"
 

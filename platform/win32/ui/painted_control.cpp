@@ -1,14 +1,19 @@
 #include "platform/win32/ui/painted_control.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <iterator>
+#include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
 #include "platform/container.h"
+#include "platform/font.h"
 #include "platform/win32/system/text.h"
 #include "platform/win32/ui/colors.h"
 #include "platform/win32/ui/gdi.h"
+#include "platform/win32/ui/native_control.h"
 #include "platform/win32/ui/system_headers.h"
 
 namespace korventally::win32 {

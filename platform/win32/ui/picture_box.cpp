@@ -1,5 +1,9 @@
 #include "platform/picture_box.h"
 
+#include <memory>
+
+#include "platform/win32/ui/gdi.h"
+#include "platform/win32/ui/native_control.h"
 #include "platform/win32/ui/painted_control.h"
 #include "platform/win32/ui/resource_ids.h"
 

@@ -1,5 +1,6 @@
 #include "platform/win32/ui/session.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 

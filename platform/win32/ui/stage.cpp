@@ -4,8 +4,10 @@
 #include <cmath>
 #include <string_view>
 
+#include "platform/font.h"
 #include "platform/geometry.h"
 #include "platform/win32/system/text.h"
+#include "platform/win32/ui/gdi.h"
 
 namespace korventally::win32 {
 namespace {

@@ -1,8 +1,12 @@
 #include "platform/text_box.h"
 
 #include <algorithm>
-#include <utility>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
 
+#include "platform/control.h"
 #include "platform/win32/system/text.h"
 #include "platform/win32/ui/clipboard.h"
 #include "platform/win32/ui/colors.h"

@@ -1,5 +1,7 @@
 #include "platform/win32/ui/tool_tips.h"
 
+#include <string>
+
 #include "platform/win32/system/text.h"
 #include "platform/win32/ui/dpi.h"
 #include "platform/win32/ui/system_headers.h"

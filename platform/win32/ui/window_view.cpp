@@ -1,5 +1,7 @@
 #include "platform/window_view.h"
 
+#include <memory>
+
 #include "platform/win32/ui/native_lookup.h"
 #include "platform/win32/ui/native_window.h"
 
