@@ -11,7 +11,8 @@
 
 namespace korventally {
 
-/// Paths are UTF-8 with backslashes. A relative path counts from the current directory.
+/// Paths are UTF-8 with backslashes. A relative path counts from the current directory. No path
+/// leads to a device: all functions take it for one that names nothing, or fail.
 
 /// Whether an ordinary file of that name exists: no folder, not hidden, not of Windows. Wildcard
 /// characters never match.

@@ -1,20 +1,17 @@
 #include "wizard/list_file_name.h"
 
 #include <algorithm>
-#include <array>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "case/ModUtilities.h"
 #include "case/run_files.h"
+#include "platform/device_name.h"
 #include "platform/files.h"
 
 namespace korventally {
 namespace {
-
-constexpr std::array kDevices = {"con", "prn", "aux", "nul", "conin$", "conout$", "clock$"};
-constexpr std::array kNumberedDevices = {"com", "lpt"};
 
 /// ASCII only, as the names are that it is compared with.
 std::string lowerCase(std::string text) {
@@ -27,20 +24,6 @@ std::string lowerCase(std::string text) {
 bool isForbidden(char c) {
   const auto code = static_cast<unsigned char>(c);
   return code < 32 || code == 127 || std::string_view("\"*/:<>?\\|").find(c) != std::string::npos;
-}
-
-/// A device goes by its name whatever its extension: "NUL.lst" is the null device.
-bool isDevice(const std::string& name) {
-  const std::string stem = trimBlanks(lowerCase(name.substr(0, name.find('.'))));
-  if (std::find(kDevices.begin(), kDevices.end(), stem) != kDevices.end()) return true;
-  for (const std::string device : kNumberedDevices) {
-    if (!stem.starts_with(device)) continue;
-    const std::string number = stem.substr(device.size());
-    if (number.size() == 1 && number >= "0" && number <= "9") return true;
-    // Windows takes the superscript digits for numbers, too.
-    if (number == "\u00B9" || number == "\u00B2" || number == "\u00B3") return true;
-  }
-  return false;
 }
 
 bool isOwnFile(const std::string& name) {
@@ -57,7 +40,7 @@ std::string objectionToListFile(const std::string& workDir, const std::string& n
     return "The list filename must be the name of a file in the working directory, without a "
            "path, without any of \\ / : * ? \" < > | and without a dot at its end.";
   }
-  if (isDevice(name)) {
+  if (isDeviceName(name)) {
     return "The list filename is the name of a Windows device. Please choose another name.";
   }
   if (isOwnFile(name)) {

@@ -5,8 +5,10 @@
 #include <cstddef>
 #include <map>
 #include <string>
+#include <string_view>
 #include <vector>
 
+#include "platform/device_name.h"
 #include "platform/result.h"
 
 namespace korventally::headless {
@@ -51,7 +53,10 @@ Result<FullPath> resolve(std::string path) {
   if (path.starts_with("\\\\")) return systemError(kNetworkPathNotFound, asGiven);
   FullPath full{takeDrive(path), path.empty() || path.ends_with('\\')};
   if (!full.namesFolder) path.erase(path.find_last_not_of(" .") + 1);
-  if (std::any_of(path.begin(), path.end(), isForbidden)) return systemError(kInvalidName, asGiven);
+  const bool device = isDeviceName(path.substr(path.rfind('\\') + 1));
+  if (device || std::any_of(path.begin(), path.end(), isForbidden)) {
+    return systemError(kInvalidName, asGiven);
+  }
   for (const std::string& name : namesIn(path)) full.text += '\\' + name;
   return full;
 }

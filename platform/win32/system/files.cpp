@@ -15,6 +15,7 @@
 #include "platform/win32/system/error.h"
 #include "platform/win32/system/handle.h"
 #include "platform/win32/system/path.h"
+#include "platform/win32/system/text.h"
 
 namespace korventally {
 namespace {
@@ -23,16 +24,12 @@ using win32::Handle;
 using win32::lastError;
 using win32::nativePath;
 
-/// Three more characters than "*" and "?" are wildcards to Windows' file listing.
-bool hasWildcard(const std::string& path) {
-  return path.find_first_of("*?<>\"") != std::string::npos;
-}
-
-/// Whether the name is one of the reserved ones, such as NUL, that stand for a device anywhere.
-bool namesDevice(const std::string& path) {
-  wchar_t full[8] = L"";
-  const DWORD length = GetFullPathNameW(nativePath(path).c_str(), 8, full, nullptr);
-  return length < 8 && std::wstring(full, length).starts_with(L"\\\\.\\");
+/// Whether the path can lead to a file or folder: Windows opens devices by the same calls, a serial
+/// port by "COM1.con" among them, and only Windows itself knows which names are theirs. Three more
+/// characters than "*" and "?" are wildcards to its file listing.
+bool leadsToFiles(const std::string& path) {
+  const std::wstring full = win32::resolve(win32::toWide(path));
+  return !full.starts_with(L"\\\\.\\") && full.find_first_of(L"*?<>\"") == std::wstring::npos;
 }
 
 /// A short write without an error is how some file systems say that the disk is full.
@@ -92,7 +89,7 @@ class Win32FileReader : public FileReader {
 }  // namespace
 
 bool fileExists(const std::string& path) {
-  if (hasWildcard(path) || namesDevice(path)) return false;
+  if (!leadsToFiles(path)) return false;
   constexpr DWORD kNotOrdinary = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_HIDDEN |
                                  FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_DEVICE;
   const DWORD attributes = GetFileAttributesW(nativePath(path).c_str());
@@ -100,7 +97,7 @@ bool fileExists(const std::string& path) {
 }
 
 bool folderListsEntries(const std::string& path) {
-  if (!path.ends_with('\\') || hasWildcard(path)) return false;
+  if (!path.ends_with('\\') || !leadsToFiles(path)) return false;
   WIN32_FIND_DATAW entry;
   HANDLE search = FindFirstFileW(nativePath(path + "*").c_str(), &entry);
   if (search == INVALID_HANDLE_VALUE) return false;
@@ -134,6 +131,7 @@ Status writeTextFile(const std::string& path, const std::vector<std::string>& li
     }
     content += bytes.value() + "\r\n";
   }
+  if (!leadsToFiles(path)) return win32::systemError(ERROR_INVALID_NAME, path);
   Handle file(CreateFileW(nativePath(path).c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
                           CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
   if (!file) return lastError(path);
@@ -143,10 +141,11 @@ Status writeTextFile(const std::string& path, const std::vector<std::string>& li
 }
 
 Result<std::unique_ptr<FileReader>> openForReading(const std::string& path) {
+  if (!leadsToFiles(path)) return win32::systemError(ERROR_INVALID_NAME, path);
   Handle file(CreateFileW(nativePath(path).c_str(), GENERIC_READ, kShareAll, nullptr, OPEN_EXISTING,
                           FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
   if (!file) return lastError(path);
-  // Reading from a console or a pipe would wait for somebody who never writes.
+  // Reading from another computer's pipe would wait for somebody who never writes.
   if (GetFileType(file.get()) != FILE_TYPE_DISK) {
     return win32::systemError(ERROR_BAD_FILE_TYPE, path);
   }

@@ -9,18 +9,18 @@
 namespace korventally::win32 {
 namespace {
 
+bool isAbsolute(const std::wstring& path) {
+  return path.starts_with(L"\\\\") || (path.size() > 2 && path[1] == L':' && path[2] == L'\\');
+}
+
+}  // namespace
+
 std::wstring resolve(const std::wstring& path) {
   const DWORD needed = GetFullPathNameW(path.c_str(), 0, nullptr, nullptr);
   std::wstring full(needed, L'\0');
   full.resize(GetFullPathNameW(path.c_str(), needed, full.data(), nullptr));
   return full.size() < needed ? full : path;
 }
-
-bool isAbsolute(const std::wstring& path) {
-  return path.starts_with(L"\\\\") || (path.size() > 2 && path[1] == L':' && path[2] == L'\\');
-}
-
-}  // namespace
 
 std::wstring nativePath(const std::string& path) {
   std::wstring plain = toWide(path);

@@ -104,6 +104,21 @@ TEST_F(Files, ExistOnlyAsOrdinaryFiles) {
   EXPECT_FALSE(fileExists(""));
 }
 
+TEST_F(Files, AreNoDevices) {
+  ASSERT_TRUE(writeTextFile(folder + "COM1x.con", {}));
+  EXPECT_TRUE(fileExists(folder + "COM1x.con"));
+  for (const std::string name :
+       {"NUL", "con", "COM1", "LPT1", "COM1.con", "nul .con", "CONIN$", "conout$"}) {
+    for (const std::string& path : {name, folder + name, "\\\\.\\" + name}) {
+      EXPECT_FALSE(fileExists(path)) << path;
+      EXPECT_FALSE(openForReading(path)) << path;
+      EXPECT_FALSE(writeTextFile(path, {})) << path;
+    }
+  }
+  EXPECT_FALSE(fileExists("\\\\.\\" + folder + "COM1x.con"));
+  EXPECT_FALSE(folderListsEntries("\\\\.\\" + folder));
+}
+
 TEST_F(Files, FoldersListThemselvesUnlessTheyAreMissing) {
   world.makeFolder(folder + "empty");
   ASSERT_TRUE(writeTextFile(folder + "file", {}));
