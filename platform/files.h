@@ -11,8 +11,9 @@
 
 namespace korventally {
 
-/// Paths are UTF-8 with backslashes. A relative path counts from the current directory. No path
-/// leads to a device: all functions take it for one that names nothing, or fail.
+/// Paths are UTF-8 with backslashes. A relative path counts from the current directory; a literal
+/// one, which begins with "\\?\", is taken as it stands. No path leads to a device: all functions
+/// take it for one that names nothing, or fail.
 
 /// Whether an ordinary file of that name exists: no folder, not hidden, not of Windows. Wildcard
 /// characters never match.

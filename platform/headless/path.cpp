@@ -14,13 +14,16 @@
 namespace korventally::headless {
 namespace {
 
+/// What a path begins with that Windows takes as it stands, without tidying it up.
+constexpr std::string_view kLiteral = R"(\\?\)";
+
 constexpr long kPathNotFound = 3;
 constexpr long kNetworkPathNotFound = 53;
 constexpr long kInvalidName = 123;
 
 bool isForbidden(char c) {
   return static_cast<unsigned char>(c) < 32 ||
-         std::string_view("*?\"<>|:").find(c) != std::string::npos;
+         std::string_view("/*?\"<>|:").find(c) != std::string::npos;
 }
 
 /// Takes the drive off the path: "C:" when it names none.
@@ -49,11 +52,13 @@ std::vector<std::string> namesIn(const std::string& path) {
 Result<FullPath> resolve(std::string path) {
   if (path.empty()) return systemError(kPathNotFound, path);
   const std::string asGiven = path;
-  std::replace(path.begin(), path.end(), '/', '\\');
+  const bool literal = path.starts_with(kLiteral);
+  if (literal) path.erase(0, kLiteral.size());
+  if (!literal) std::replace(path.begin(), path.end(), '/', '\\');
   if (path.starts_with("\\\\")) return systemError(kNetworkPathNotFound, asGiven);
   FullPath full{takeDrive(path), path.empty() || path.ends_with('\\')};
-  if (!full.namesFolder) path.erase(path.find_last_not_of(" .") + 1);
-  const bool device = isDeviceName(path.substr(path.rfind('\\') + 1));
+  if (!full.namesFolder && !literal) path.erase(path.find_last_not_of(" .") + 1);
+  const bool device = !literal && isDeviceName(path.substr(path.rfind('\\') + 1));
   if (device || std::any_of(path.begin(), path.end(), isForbidden)) {
     return systemError(kInvalidName, asGiven);
   }

@@ -14,8 +14,8 @@ struct FullPath {
 };
 
 /// Resolves a path against the root of drive C:, the current directory. Blanks and full stops at
-/// the end of the last name are dropped; wildcards, other characters that no name can hold and
-/// devices are an error.
+/// the end of the last name are dropped, unless the path is literal; wildcards, other characters
+/// that no name can hold and devices are an error.
 Result<FullPath> resolve(std::string path);
 
 /// The folder that holds a full path; a drive holds itself.

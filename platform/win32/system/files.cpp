@@ -26,10 +26,13 @@ using win32::nativePath;
 
 /// Whether the path can lead to a file or folder: Windows opens devices by the same calls, a serial
 /// port by "COM1.con" among them, and only Windows itself knows which names are theirs. Three more
-/// characters than "*" and "?" are wildcards to its file listing.
+/// characters than "*" and "?" are wildcards to its file listing; the prefix of a literal path
+/// holds one that is not.
 bool leadsToFiles(const std::string& path) {
   const std::wstring full = win32::resolve(win32::toWide(path));
-  return !full.starts_with(L"\\\\.\\") && full.find_first_of(L"*?<>\"") == std::wstring::npos;
+  if (full.starts_with(L"\\\\.\\")) return false;
+  const std::size_t names = win32::isLiteral(full) ? win32::kLiteral.size() : 0;
+  return full.find_first_of(L"*?<>\"", names) == std::wstring::npos;
 }
 
 /// A short write without an error is how some file systems say that the disk is full.

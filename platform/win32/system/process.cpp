@@ -72,10 +72,11 @@ std::wstring commandLine(const std::wstring& interpreter, const std::wstring& sy
 }
 
 /// A program named without its folder must not be taken from the current directory, where anybody
-/// may have put one of that name.
+/// may have put one of that name. The interpreter finds no batch file by a literal path.
 std::wstring environment(const std::string& batchPath) {
-  return win32::environmentWith({{L"KORVENTALLY_BATCH", win32::toWide(win32::fullPath(batchPath))},
-                                 {L"NoDefaultCurrentDirectoryInExePath", L"1"}});
+  const std::wstring batch = win32::withoutLiteral(win32::toWide(win32::fullPath(batchPath)));
+  return win32::environmentWith(
+      {{L"KORVENTALLY_BATCH", batch}, {L"NoDefaultCurrentDirectoryInExePath", L"1"}});
 }
 
 struct Started {

@@ -25,6 +25,7 @@ class Files : public ::testing::Test {
     }
   }
 
+  static constexpr const char* kLiteral = R"(\\?\)";
   World world;
   const std::string folder = world.freshFolder();
 };
@@ -117,6 +118,20 @@ TEST_F(Files, AreNoDevices) {
   }
   EXPECT_FALSE(fileExists("\\\\.\\" + folder + "COM1x.con"));
   EXPECT_FALSE(folderListsEntries("\\\\.\\" + folder));
+}
+
+TEST_F(Files, CanBeNamedLiterally) {
+  const std::string literal = kLiteral + folder;
+  EXPECT_TRUE(folderListsEntries(literal));
+  EXPECT_FALSE(folderListsEntries(literal + "?\\"));
+  ASSERT_TRUE(writeTextFile(literal + "é.txt", {"text"}));
+  EXPECT_TRUE(fileExists(literal + "É.TXT"));
+  EXPECT_TRUE(sameFile(literal + "é.txt", folder + "é.txt"));
+  EXPECT_EQ(bytesOf(literal + "é.txt"), "text\r\n");
+  for (const char* name : {"é.txt ", "é.tx?", "..\\", "./é.txt"}) {
+    EXPECT_FALSE(fileExists(literal + name)) << name << " is no name, taken as it stands";
+  }
+  EXPECT_TRUE(deleteFile(literal + "é.txt"));
 }
 
 TEST_F(Files, FoldersListThemselvesUnlessTheyAreMissing) {
