@@ -40,8 +40,25 @@ TEST_F(Info, AboutNamesTheVersion) {
     EXPECT_EQ(about.lblVersion.text(), "Version1.2");
     EXPECT_EQ(about.lblLevel.text(), "March 27, 2009");
     EXPECT_EQ(about.backColor(), colors::kTitleBarText);
+    EXPECT_EQ(about.focused(), &about.cmdOK);
+    EXPECT_EQ(about.chkDebug.accessibleName(), "Debug mode");
     click(about.cmdOK);
   });
+}
+
+/// Navy texts, with underlined headings and definitions whose dashes stand in line.
+void expectWholePage(const frmKORVENTALLYHelp& help) {
+  std::string headings, definitions;
+  for (const Control* child : help.children()) {
+    if (child->kind() != Control::Kind::kLabel) continue;
+    EXPECT_EQ(child->foreColor(), colors::kNavy) << child->text();
+    if (child->font().underlined) headings += child->text();
+    if (child->text().starts_with(' ')) definitions += child->text().substr(0, 24) + "|";
+  }
+  EXPECT_EQ(headings, "Purpose:Notes:Terms and Definitions:");
+  EXPECT_EQ(definitions,
+            "              EPA - Unit|        NAAQS - National|"
+            "              PSD - Prev|                SIL - Si|");
 }
 
 TEST_F(Info, HelpOpensOverTheWizardAndAgain) {
@@ -50,6 +67,7 @@ TEST_F(Info, HelpOpensOverTheWizardAndAgain) {
       desktop.expectWindow([&](Window& window) {
         auto& help = dynamic_cast<frmKORVENTALLYHelp&>(window);
         EXPECT_FALSE(desktop.takesInput(w));
+        expectWholePage(help);
         time == 0 ? click(help.cmdOK) : press(help, Key::kEscape);
       });
       w.mnuKORVENTALLYHelp.onClick();

@@ -76,6 +76,8 @@ class FaultyRun : public Study {
     if (outcome.status == "RUN COMPLETED") {
       EXPECT_EQ(desktop.enginesStarted(), 1) << "a verdict without an engine";
       EXPECT_TRUE(desktop.fileBytes(kStudy + "korventally.lst")->find("KORVENTALLY listing") == 0);
+      const bool opened = !desktop.filesInNotepad().empty();
+      EXPECT_TRUE(opened || !outcome.messages.empty()) << "no editor, and nobody was told";
     } else {
       EXPECT_FALSE(outcome.messages.empty()) << "nothing ran, and nobody was told";
     }
@@ -107,6 +109,20 @@ void checkRunWith(const std::vector<Fault>& faults) {
   FaultyRun run;
   run.leaveAnOldRun();
   run.expectInvariants(run.runWith(faults));
+}
+
+TEST(Faults, NothingMayStandUnderTheNameOfTheListFile) {
+  for (const bool folder : {true, false}) {
+    FaultyRun run;
+    const std::string list = kStudy + "korventally.lst";
+    if (folder) run.desktop.makeFolder(list + "\\");
+    if (!folder) run.desktop.putFile(list, "RUN COMPLETED", Desktop::Attribute::kHidden);
+    const FaultyRun::Outcome outcome = run.runWith({});
+    EXPECT_EQ(run.desktop.enginesStarted(), 0);
+    ASSERT_EQ(outcome.messages.size(), 1u);
+    const std::string what = "The list file of an earlier run could not be deleted:\n";
+    EXPECT_TRUE(outcome.messages[0].starts_with(what + list)) << outcome.messages[0];
+  }
 }
 
 TEST(Faults, EverySingleOneLeavesAUsableWindowAndATidyFolder) {

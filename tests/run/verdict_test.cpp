@@ -37,6 +37,7 @@ TEST(VerdictScanner, TakesTheLastWholeLineThatIsAVerdict) {
       {std::string("RUN COMPLETED\0\r\n", 16), std::nullopt},
       {std::string("R\0U\0N\0 \0F\0A\0I\0L\0E\0D\0\r\0\n\0", 24), std::nullopt},
       {longLine + "RUN COMPLETED\r\n", std::nullopt},
+      {"THIRTEEN CHARRUN COMPLETED\r\n", std::nullopt},
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.bytes.substr(0, 40));

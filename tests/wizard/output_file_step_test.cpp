@@ -52,6 +52,7 @@ TEST_F(OutputFile, CapturesTheOtherChoiceOfEveryOption) {
     w.analysisType.opt24hr.select();
     w.sourceGroups.txtAmbientBckg.setText(" 12.5 ");
     w.processingInfo.optReceptor_Generic.select();
+    w.processingInfo.txtYear.setText("2008");
     w.processingInfo.optRank1_Exclude.select();
     w.outputFile.txtLSTFilename.setText("  my list.lst ");
   });
@@ -111,9 +112,10 @@ TEST_F(OutputFile, AsksBeforeAnExistingListFileIsOverwritten) {
     EXPECT_EQ(box.backColor(), colors::kYellow);
     EXPECT_EQ(w.focused(), &box) << "for another name";
     EXPECT_EQ(theCase.WorkDir, kStudy) << "taken before any check";
-    EXPECT_EQ(theCase.ListFile, "");
+    EXPECT_EQ(theCase.Species + theCase.RunLength + theCase.ListFile, "") << "and nothing else";
     desktop.expectMessage(kOverwrite, "Warning", Answer::kYes);
-    expectSummary([](frmRunSummary&) {});
+    theCase.StandardLimit = "edited";
+    expectSummary([](frmRunSummary& s) { EXPECT_EQ(s.txtNAAQSPSDLimit.text(), "1300.0"); });
     click(w.cmdRUN);
     EXPECT_EQ(box.backColor(), colors::kWhite);
     EXPECT_EQ(desktop.fileBytes(kStudy + "korventally.lst"), "old");
@@ -133,15 +135,6 @@ TEST_F(OutputFile, DefaultPutsTheNameBackAndLeavesTheMark) {
     expectSummary([](frmRunSummary&) {});
     click(w.cmdRUN);
     EXPECT_EQ(box.backColor(), colors::kWhite);
-  });
-}
-
-TEST_F(OutputFile, ANewRunReplacesEditedLimits) {
-  inWizard([&](frmKORVENTALLY& w) {
-    walkToOutput(w);
-    theCase.StandardLimit = theCase.SilLimit = "edited";
-    expectSummary([](frmRunSummary& s) { EXPECT_EQ(s.txtNAAQSPSDLimit.text(), "1300.0"); });
-    click(w.cmdRUN);
   });
 }
 
