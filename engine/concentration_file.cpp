@@ -18,6 +18,7 @@
 #include "engine/system_files.h"
 #include "engine/text.h"
 #include "engine/value_row.h"
+#include "engine/zero_row.h"
 
 namespace korventally::engine {
 namespace {
@@ -40,6 +41,16 @@ std::optional<Hour> takeDate(std::string_view line, std::string_view& rest) {
   return hourFromDate(parts[0], parts[1], parts[2], parts[3]);
 }
 
+// What the word in place of the values says; nothing when values stand there.
+std::optional<HourKind> markIn(std::string_view values) {
+  Fields fields = Fields::continuing(values);
+  std::string_view word;
+  if (!fields.next(word)) return std::nullopt;
+  if (word == "calm") return HourKind::kCalm;
+  if (word == "missing") return HourKind::kMissing;
+  return std::nullopt;
+}
+
 class Reading {
  public:
   Reading(InputFile& file, const Blocks& blocks, std::size_t receptors)
@@ -49,6 +60,7 @@ class Reading {
         reader_(file, longestLine(receptors)),
         outside_(receptors) {
     result_.sums.resize(static_cast<std::size_t>(blocks.count) * receptors);
+    result_.kinds.resize(static_cast<std::size_t>(blocks.end() - blocks.start));
   }
 
   GroupSums finish(const std::function<bool()>& giveUp) {
@@ -80,7 +92,27 @@ class Reading {
     }
     result_.last = *hour;
     ++result_.hours;
-    if (!row_.addTo(sumsOf(*hour), values)) fail(explainValues(values, receptors_));
+    const HourKind kind = takeValues(*hour, values);
+    if (isInBlocks(*hour)) result_.kinds[static_cast<std::size_t>(*hour - blocks_.start)] = kind;
+  }
+
+  HourKind takeValues(Hour hour, std::string_view values) {
+    if (const std::optional<HourKind> mark = markIn(values)) {
+      requireNothingBehindMark(values);
+      ++(*mark == HourKind::kCalm ? result_.calm : result_.missing);
+      return *mark;
+    }
+    if (!row_.addTo(sumsOf(hour), values)) fail(explainValues(values, receptors_));
+    return isZeroRow(values) ? HourKind::kZero : HourKind::kValid;
+  }
+
+  void requireNothingBehindMark(std::string_view values) const {
+    Fields fields = Fields::continuing(values);
+    std::string_view mark, more;
+    fields.next(mark);
+    if (!fields.next(more)) return;
+    fail(" has " + inQuotes(more) + " behind " + inQuotes(mark) +
+         "; the word stands in place of all values");
   }
 
   [[noreturn]] void failOrder(Hour hour) const {
@@ -90,9 +122,11 @@ class Reading {
     fail(" leaves a gap: " + dates);
   }
 
+  bool isInBlocks(Hour hour) const { return hour >= blocks_.start && hour < blocks_.end(); }
+
   // Where the values of this hour go; those outside the blocks are checked and forgotten.
   std::span<double> sumsOf(Hour hour) {
-    if (hour < blocks_.start || hour >= blocks_.end()) return outside_;
+    if (!isInBlocks(hour)) return outside_;
     const auto block = static_cast<std::size_t>((hour - blocks_.start) / blocks_.hours);
     return std::span(result_.sums).subspan(block * receptors_, receptors_);
   }

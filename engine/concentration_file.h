@@ -1,5 +1,6 @@
 // A concentration file: lines that begin with "#" at its top, then one line per hour with year,
-// month, day, hour and one value in g/m**3 for every receptor, in the order of the receptor file.
+// month, day, hour and one value in g/m**3 for every receptor, in the order of the receptor file;
+// for an hour that has no concentrations, the word "calm" or "missing" in place of the values.
 #pragma once
 
 #include <cstddef>
@@ -13,12 +14,24 @@
 
 namespace korventally::engine {
 
-/// What one file came to. Memory: one double per receptor and block, however many hours there are.
+/// What an hour is in one file, or in all of them.
+enum class HourKind : std::uint8_t {
+  kValid,
+  kZero,     ///< valid as well, and zero at every receptor
+  kCalm,     ///< marked: no wind that a model could compute with
+  kMissing,  ///< marked: no weather is known
+};
+
+/// What one file came to. Memory: one double per receptor and block, however many hours there are,
+/// and one byte per hour of the blocks.
 struct GroupSums {
-  std::vector<double> sums;  ///< g/m**3, summed over the hours of a block; [block][receptor]
+  std::vector<double> sums;     ///< g/m**3, summed over the hours of a block; [block][receptor]
+  std::vector<HourKind> kinds;  ///< of the hours of all blocks, from the first on
   std::uint64_t bytes = 0;
   std::uint64_t lines = 0;
-  std::uint64_t hours = 0;  ///< in the whole file
+  std::uint64_t hours = 0;    ///< in the whole file
+  std::uint64_t calm = 0;     ///< of those, marked so
+  std::uint64_t missing = 0;  ///< of those, marked so
   Hour first = 0;
   Hour last = 0;
 };

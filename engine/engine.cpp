@@ -19,9 +19,11 @@
 #include "engine/list_file.h"
 #include "engine/receptor_file.h"
 #include "engine/report_case.h"
+#include "engine/report_hours.h"
 #include "engine/report_results.h"
 #include "engine/system_files.h"
 #include "engine/text.h"
+#include "engine/valid_hours.h"
 
 namespace korventally::engine {
 namespace {
@@ -76,15 +78,18 @@ void compute(const Case& theCase, ListFile& list) {
   const std::size_t count = receptors.list.size();
   reportReceptorFile(theCase, receptors, list);
   const std::vector<GroupSums> groups = readAll(theCase, files, blocks, count, list);
-  reportAverages(theCase, blocks, list);
+  const RunHours hours = agreeOnHours(theCase, blocks, groups);
   const Names names{theCase, blocks, receptors.list};
-  const Averages averages(theCase, blocks, groups, count);
+  const Averages averages(theCase, blocks, groups, count, validHoursOfBlocks(blocks, hours));
+  reportAverages(theCase, blocks, linesOfMarkedHours(blocks, hours, averages), list);
   const Judgement judgement = judge(theCase, averages);
   reportMaxima(names, judgement, list);
   reportCounts(names, judgement, list);
   reportExceedances(names, averages, judgement, list);
   reportLeftOut(names, judgement, list);
-  reportWarnings(names, averages, judgement, list);
+  const Averages ifCalm(theCase, blocks, groups, count, validHoursOfBlocks(blocks, hours, true));
+  reportWarnings(names, averages, judgement, warningOfZeroHours(names, hours, ifCalm, judgement),
+                 list);
   reportElapsed(begin, list);
 }
 

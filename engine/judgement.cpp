@@ -2,12 +2,15 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <tuple>
+#include <utility>
 #include <vector>
 
 #include "engine/blocks.h"
 #include "engine/concentration_file.h"
 #include "engine/control_file.h"
+#include "engine/valid_hours.h"
 
 namespace korventally::engine {
 namespace {
@@ -110,13 +113,18 @@ void checkFit(const Averages& averages, const Place& place, double own, Misfit& 
 }  // namespace
 
 Averages::Averages(const Case& theCase, const Blocks& blocks, const std::vector<GroupSums>& groups,
-                   std::size_t receptors)
+                   std::size_t receptors, std::vector<std::int64_t> validHours)
     : groups_(groups),
       blocks_(static_cast<std::size_t>(blocks.count)),
       receptors_(receptors),
-      factor_(theCase.scale / static_cast<double>(blocks.hours)),
+      validHours_(std::move(validHours)),
       offset_(theCase.offset),
-      background_(theCase.background) {}
+      background_(theCase.background) {
+  factors_.reserve(validHours_.size());
+  for (const std::int64_t valid : validHours_) {
+    factors_.push_back(theCase.scale / static_cast<double>(divisorOf(blocks, valid)));
+  }
+}
 
 bool exceeds(double total, double standard) { return total - standard > kRounding * standard; }
 

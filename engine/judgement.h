@@ -18,17 +18,20 @@ inline constexpr std::size_t kMostExceedancesListed = 50;
 /// The averages of a run, computed from the sums when asked for.
 class Averages {
  public:
-  /// All three must outlive this.
+  /// `validHours` has one number for each block (validHoursOfBlocks()). `groups` must outlive this.
   Averages(const Case& theCase, const Blocks& blocks, const std::vector<GroupSums>& groups,
-           std::size_t receptors);
+           std::size_t receptors, std::vector<std::int64_t> validHours);
 
   std::size_t groups() const { return groups_.size(); }
   std::size_t blocks() const { return blocks_; }
   std::size_t receptors() const { return receptors_; }
 
+  /// Hours of the block that are neither calm nor missing; the same for all groups.
+  std::int64_t validHours(std::size_t block) const { return validHours_[block]; }
+
   /// The group's own average, without background.
   double own(std::size_t group, std::size_t block, std::size_t receptor) const {
-    return groups_[group].sums[block * receptors_ + receptor] * factor_ + offset_;
+    return groups_[group].sums[block * receptors_ + receptor] * factors_[block] + offset_;
   }
 
   /// The average with the background, which belongs to the first group only.
@@ -40,7 +43,8 @@ class Averages {
   const std::vector<GroupSums>& groups_;
   std::size_t blocks_;
   std::size_t receptors_;
-  double factor_;  ///< from a sum in g/m**3 to an average in ug/m**3
+  std::vector<std::int64_t> validHours_;
+  std::vector<double> factors_;  ///< of each block, from a sum in g/m**3 to an average in ug/m**3
   double offset_;
   double background_;
 };

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "engine/blocks.h"
 #include "engine/calendar.h"
@@ -12,6 +13,7 @@
 #include "engine/judgement.h"
 #include "engine/list_file.h"
 #include "engine/receptor_file.h"
+#include "engine/report_hours.h"
 #include "engine/text.h"
 
 namespace korventally::engine {
@@ -84,9 +86,11 @@ void reportGroupFile(const SourceGroup& group, const GroupSums& sums, std::size_
   list.line("  " + left("", 15) + counted(sums.bytes, "byte") + ", " + counted(sums.lines, "line") +
             ", " + counted(sums.hours, "hour") + " (" + dateText(sums.first) + " to " +
             dateText(sums.last) + "), " + counted(receptors, "receptor"));
+  list.line("  " + left("", 15) + markedText(sums));
 }
 
-void reportAverages(const Case& theCase, const Blocks& blocks, ListFile& list) {
+void reportAverages(const Case& theCase, const Blocks& blocks, const std::vector<std::string>& more,
+                    ListFile& list) {
   list.line();
   list.line("AVERAGES");
   list.line("  " + averaged(blocks) + (blocks.annual ? " (annual)" : ""));
@@ -99,6 +103,7 @@ void reportAverages(const Case& theCase, const Blocks& blocks, ListFile& list) {
     list.line("  The background of " + shortest(theCase.background) +
               " ug/m**3 is part of every value of " + theCase.groups.front().name + " below.");
   }
+  for (const std::string& line : more) list.line(line);
   list.line();
 }
 
@@ -149,11 +154,13 @@ void reportLeftOut(const Names& names, const Judgement& judgement, ListFile& lis
 }
 
 void reportWarnings(const Names& names, const Averages& averages, const Judgement& judgement,
-                    ListFile& list) {
+                    const std::vector<std::string>& ofInput, ListFile& list) {
   const Blocks& blocks = names.blocks;
   const bool shortYear = blocks.annual && blocks.hours < hoursOfYearFrom(blocks.start);
   const bool nothingLeft = judgement.judged == 0;
+  const bool none = ofInput.empty() && !shortYear && !nothingLeft && judgement.misfit.count == 0;
   list.line("WARNINGS");
+  for (const std::string& line : ofInput) list.line(line);
   if (shortYear) {
     list.line("  The annual average covers " + hoursText(blocks.hours) +
               ", which is less than a year.");
@@ -162,7 +169,7 @@ void reportWarnings(const Names& names, const Averages& averages, const Judgemen
     list.line("  Every receptor has one average only, and rank 1 is excluded: nothing was judged.");
   }
   if (judgement.misfit.count > 0) reportMisfit(names, averages, judgement.misfit, list);
-  if (!shortYear && !nothingLeft && judgement.misfit.count == 0) list.line("  None.");
+  if (none) list.line("  None.");
   list.line();
 }
 

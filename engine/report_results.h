@@ -24,12 +24,15 @@ struct Names {
 void reportReceptorFile(const Case& theCase, const Receptors& receptors, ListFile& list);
 void reportGroupFile(const SourceGroup& group, const GroupSums& sums, std::size_t receptors,
                      ListFile& list);
-void reportAverages(const Case& theCase, const Blocks& blocks, ListFile& list);
+/// `more` are lines to add to the section.
+void reportAverages(const Case& theCase, const Blocks& blocks, const std::vector<std::string>& more,
+                    ListFile& list);
 void reportMaxima(const Names& names, const Judgement& judgement, ListFile& list);
 void reportCounts(const Names& names, const Judgement& judgement, ListFile& list);
 void reportLeftOut(const Names& names, const Judgement& judgement, ListFile& list);
+/// `ofInput` are lines about what the files hold; they come first.
 void reportWarnings(const Names& names, const Averages& averages, const Judgement& judgement,
-                    ListFile& list);
+                    const std::vector<std::string>& ofInput, ListFile& list);
 
 /// The table of the largest exceedances with the contribution of every group but the first; in
 /// report_exceedances.cpp. At most 132 characters a line, whatever the number of groups.

@@ -58,8 +58,20 @@ class Study:
         self.blocks = self.run // self.block
         self.before, self.after = rng.choice([0, 0, 5]), rng.choice([0, 0, 7])
 
+    def choose_marks(self):
+        """Calm and missing hours, many in some studies; hours zero everywhere in others."""
+        rng = self.rng
+        share = rng.choice([0, 0, 0.05, 0.5])
+        hours = self.before + self.run + self.after
+        self.marks = [rng.choice(["calm", "missing"]) if rng.random() < share else None
+                      for _ in range(hours)]
+        self.nights = rng.choice([0, 0, 0.2])
+        if self.annual and all(self.marks[self.before:self.before + self.run]):
+            self.marks[self.before] = None
+
     def make_values(self):
         hours = self.before + self.run + self.after
+        self.choose_marks()
         self.texts = []
         for _ in range(self.groups):
             self.texts.append([[number(self.rng).strip() for _ in range(self.receptors)]
@@ -70,16 +82,30 @@ class Study:
                 for r in range(self.receptors):
                     parts = sum(Fraction(self.texts[g][hour][r]) for g in range(1, self.groups))
                     self.texts[0][hour][r] = "%.6E" % float(parts * share)
+        for hour in range(hours):
+            if self.rng.random() < self.nights:
+                for group in self.texts:
+                    group[hour] = ["0.0"] * self.receptors
+
+    def is_zero(self, hour):
+        return not any(Fraction(text) for group in self.texts for text in group[hour])
+
+    def averages(self, group, zero_is_calm=False):
+        rows = []
+        for b in range(self.blocks):
+            first = self.before + b * self.block
+            valid = [h for h in range(first, first + self.block)
+                     if not self.marks[h] and not (zero_is_calm and self.is_zero(h))]
+            least = 1 if self.annual else int(Fraction(3, 4) * self.block + Fraction(9, 10))
+            rows.append([sum(Fraction(self.texts[group][h][r]) for h in valid) * MICRO
+                         / max(len(valid), least) for r in range(self.receptors)])
+        return rows
 
     def compute(self):
-        self.own = []
-        for group in self.texts:
-            hours = group[self.before:]
-            self.own.append([[sum(Fraction(hours[b * self.block + h][r])
-                                  for h in range(self.block)) * MICRO / self.block
-                              for r in range(self.receptors)] for b in range(self.blocks)])
         back = Fraction(self.background)
+        self.own = [self.averages(g) for g in range(self.groups)]
         self.total = [[v + back for v in row] for row in self.own[0]]
+        self.total_if_calm = [[v + back for v in row] for row in self.averages(0, True)]
 
     def choose_limits(self):
         totals = sorted(v for row in self.total for v in row)
@@ -122,7 +148,8 @@ class Study:
         midnight_is_24 = self.rng.random() < 0.3
         with open(path, "w", newline="") as out:
             out.write("# hourly values%s#%s" % (self.line_end, self.line_end))
-            for row in rows:
+            for row, mark in zip(rows, self.marks):
+                row = [mark] if mark else row
                 day, hour = moment, moment.hour
                 if midnight_is_24 and hour == 0:
                     day, hour = moment - datetime.timedelta(days=1), 24
@@ -253,6 +280,34 @@ def check_misfit(study, lines):
         same(str(float(m[2]) - float(m[3])), worst, "worst misfit", 3)
 
 
+def check_hours(study, lines):
+    used = study.marks[study.before:study.before + study.blocks * study.block]
+    text = "\n".join(section(lines, "AVERAGES"))
+    m = re.search(r"Of the ([\d,]+) hours? used, (\d+) hours? calm, (\d+) hours? missing: left out", text)
+    need(bool(m) == any(used), "marked hours")
+    if m:
+        need((int(m[1]), int(m[2]), int(m[3])) ==
+             (len(used), used.count("calm"), used.count("missing")), "numbers of marked hours")
+    of_files = [re.match(r" {17}(\d+) hours? calm, (\d+) hours? missing$|( {17}no hour marked)$", line)
+                for line in lines]
+    of_files = [m for m in of_files if m]
+    need(len(of_files) == study.groups, "marked hours of files")
+    for m in of_files:
+        need([int(m[1] or 0), int(m[2] or 0)] ==
+             [study.marks.count(word) for word in ("calm", "missing")], "marks of a file")
+    zero = sum(not mark and study.is_zero(study.before + h) for h, mark in enumerate(used))
+    warnings = "\n".join(section(lines, "WARNINGS"))
+    m = re.search(r"(\d+) hours? (?:is|are) zero at every receptor of every group", warnings)
+    need((int(m[1]) if m else 0) == zero, "hours of zeros")
+    m = re.search(r"would be (\S+) instead of (\S+) ug", warnings)
+    highest, then = (max(v for row in t for v in row) for t in (study.total, study.total_if_calm))
+    if zero and then > highest * Fraction(1001, 1000):
+        need(m, "effect of hours of zeros")
+    if m:
+        same(m[1], then, "highest average without hours of zeros")
+        same(m[2], highest, "highest average in the warning")
+
+
 def check(study, engine):
     study.write()
     subprocess.run(engine + [str(study.folder / "korventally.inp")], check=False, timeout=120)
@@ -260,6 +315,7 @@ def check(study, engine):
     need(data.endswith("\r\nRUN COMPLETED\r\n"), "verdict: " + data[-300:])
     lines = data.split("\r\n")
     need(max(map(len, section(lines, "EXCEEDANCES"))) <= 132, "width")
+    check_hours(study, lines)
     check_maxima(study, lines)
     check_judgement(study, lines)
     check_misfit(study, lines)
