@@ -25,7 +25,7 @@ Blocks planAnnual(const Case& theCase) {
                 " is longer than the year that begins at " + dateText(theCase.start) + " (" +
                 hoursText(year) + "); an annual average covers one year at most.");
   }
-  return {theCase.start, theCase.runHours, 1, 0, true};
+  return {theCase.start, theCase.runHours, 1, 0, true, HourCount::kUnknown};
 }
 
 }  // namespace
@@ -41,7 +41,8 @@ Blocks planBlocks(const Case& theCase) {
     throw Fault("The run length of " + hoursText(theCase.runHours) +
                 " is shorter than one averaging period of " + hoursText(hours) + ".");
   }
-  return {theCase.start, hours, theCase.runHours / hours, theCase.runHours % hours, false};
+  return {theCase.start,      hours, theCase.runHours / hours, theCase.runHours % hours, false,
+          HourCount::kUnknown};
 }
 
 }  // namespace korventally::engine

@@ -25,7 +25,8 @@ Hour firstHourOf(const year_month_day& date) {
 
 std::optional<Hour> hourFromDate(std::int64_t year, std::int64_t month, std::int64_t day,
                                  std::int64_t hour) {
-  if (year < 1 || year > 9999 || month < 1 || month > 12 || day < 1 || day > 31) return {};
+  if (year < kEarliestYear || year > 9999 || month < 1 || month > 12 || day < 1 || day > 31)
+    return {};
   if (hour < 0 || hour > 24) return {};
   const year_month_day date(std::chrono::year(static_cast<int>(year)),
                             std::chrono::month(static_cast<unsigned>(month)),
@@ -34,13 +35,19 @@ std::optional<Hour> hourFromDate(std::int64_t year, std::int64_t month, std::int
   return firstHourOf(date) + hour;
 }
 
-std::string dateText(Hour hour) {
-  const year_month_day date = dateOf(hour);
+std::string dateText(Hour hour, HourCount count) {
+  // The first hour of a day is the last of the day before where hours are counted from 1.
+  const year_month_day date = dateOf(count == HourCount::kFrom1To24 ? hour - 1 : hour);
   char text[32];
   std::snprintf(text, sizeof text, "%04d-%02u-%02u %02d", static_cast<int>(date.year()),
                 static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()),
                 static_cast<int>(hour - firstHourOf(date)));
   return text;
+}
+
+std::int64_t hourOfDay(Hour hour, HourCount count) {
+  const Hour from0 = count == HourCount::kFrom1To24 ? hour - 1 : hour;
+  return from0 - firstHourOf(dateOf(from0));
 }
 
 std::int64_t hoursOfYearFrom(Hour start) {

@@ -1,5 +1,6 @@
 #include "engine/concentration_file.h"
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -26,19 +27,24 @@ namespace {
 // Room for a date and generously written values; a longer line is no line of this file.
 std::size_t longestLine(std::size_t receptors) { return 4096 + 64 * receptors; }
 
-// The four fields of the date, and behind them, in `rest`, the separator and the values.
-std::optional<Hour> takeDate(std::string_view line, std::string_view& rest) {
+// The four fields at the beginning of a line, and behind them the separator and the values.
+struct DateFields {
+  std::array<std::int64_t, 4> parts = {};
+  std::string_view values;
+};
+
+std::optional<DateFields> takeDate(std::string_view line) {
   Fields fields(line);
-  std::int64_t parts[4] = {};
-  for (std::int64_t& part : parts) {
+  DateFields date;
+  for (std::int64_t& part : date.parts) {
     std::string_view field;
     if (!fields.next(field)) return std::nullopt;
     const std::optional<std::int32_t> number = parseWhole(field);
     if (!number) return std::nullopt;
     part = *number;
   }
-  rest = fields.rest();
-  return hourFromDate(parts[0], parts[1], parts[2], parts[3]);
+  date.values = fields.rest();
+  return date;
 }
 
 // What the word in place of the values says; nothing when values stand there.
@@ -82,9 +88,10 @@ class Reading {
   }
 
   void addHour(std::string_view line) {
-    std::string_view values;
-    const std::optional<Hour> hour = takeDate(line, values);
+    const std::optional<DateFields> date = takeDate(line);
+    const std::optional<Hour> hour = date ? hourOf(*date) : std::nullopt;
     if (!hour) fail(" does not begin with year, month, day and hour of a real date");
+    noteClock(date->parts[3]);
     if (result_.hours == 0) {
       result_.first = *hour;
     } else if (*hour != result_.last + 1) {
@@ -92,8 +99,31 @@ class Reading {
     }
     result_.last = *hour;
     ++result_.hours;
-    const HourKind kind = takeValues(*hour, values);
+    const HourKind kind = takeValues(*hour, date->values);
     if (isInBlocks(*hour)) result_.kinds[static_cast<std::size_t>(*hour - blocks_.start)] = kind;
+  }
+
+  std::optional<Hour> hourOf(const DateFields& date) const {
+    const auto& [year, month, day, hour] = date.parts;
+    if (year < kEarliestYear) {
+      fail(" gives the year as " + std::to_string(year) + "; it must be " +
+           std::to_string(kEarliestYear) + " or later, in four digits");
+    }
+    return hourFromDate(year, month, day, hour);
+  }
+
+  // Hour 0 and hour 24 are the two names of one hour: a file that has both was pieced together.
+  void noteClock(std::int64_t hour) {
+    if (hour != 0 && hour != 24) return;
+    const HourCount count = hour == 0 ? HourCount::kFrom0To23 : HourCount::kFrom1To24;
+    if (result_.hourCount == HourCount::kUnknown) {
+      result_.hourCount = count;
+      clockLine_ = reader_.lineNumber();
+    }
+    if (count == result_.hourCount) return;
+    fail(" has an hour " + std::to_string(hour) + ", but line " + std::to_string(clockLine_) +
+         " an hour " + (hour == 0 ? "24" : "0") +
+         "; a file counts the hours of a day either from 0 to 23 or from 1 to 24");
   }
 
   HourKind takeValues(Hour hour, std::string_view values) {
@@ -116,11 +146,13 @@ class Reading {
   }
 
   [[noreturn]] void failOrder(Hour hour) const {
-    const std::string dates = dateText(hour) + " after " + dateText(result_.last);
-    if (hour == result_.last) fail(" repeats the hour " + dateText(hour));
+    const std::string dates = nameOf(hour) + " after " + nameOf(result_.last);
+    if (hour == result_.last) fail(" repeats the hour " + nameOf(hour));
     if (hour < result_.last) fail(" goes back in time: " + dates);
     fail(" leaves a gap: " + dates);
   }
+
+  std::string nameOf(Hour hour) const { return dateText(hour, result_.hourCount); }
 
   bool isInBlocks(Hour hour) const { return hour >= blocks_.start && hour < blocks_.end(); }
 
@@ -135,9 +167,23 @@ class Reading {
     const std::string file = "The file " + file_.name() + " ";
     if (result_.hours == 0) throw Fault(file + "holds no hour.");
     if (result_.first <= blocks_.start && result_.last + 1 >= blocks_.end()) return;
-    throw Fault(file + "holds the hours " + dateText(result_.first) + " to " +
-                dateText(result_.last) + ", but the run needs " + dateText(blocks_.start) + " to " +
-                dateText(blocks_.end() - 1) + ".");
+    throw Fault(file + "holds the hours " + nameOf(result_.first) + " to " + nameOf(result_.last) +
+                ", but the run needs " + nameOf(blocks_.start) + " to " +
+                nameOf(blocks_.end() - 1) + "." + adviceOnClock());
+  }
+
+  // A run that was set up for the other clock asks for one hour too many.
+  std::string adviceOnClock() const {
+    const HourCount count = result_.hourCount;
+    const std::int64_t first = hourOfDay(result_.first, count);
+    const std::int64_t last = hourOfDay(result_.last, count);
+    if (count == HourCount::kFrom1To24 && first == 0 && result_.first == blocks_.start + 1) {
+      return " The file counts the hours of a day from 1 to 24: a day begins at hour 1.";
+    }
+    if (count == HourCount::kFrom0To23 && last == 23 && result_.last + 2 == blocks_.end()) {
+      return " The file counts the hours of a day from 0 to 23: a day begins at hour 0.";
+    }
+    return {};
   }
 
   InputFile& file_;
@@ -146,6 +192,7 @@ class Reading {
   LineReader reader_;
   ValueRow row_;
   std::vector<double> outside_;
+  std::uint64_t clockLine_ = 0;  // that told how hours are counted
   GroupSums result_;
 };
 

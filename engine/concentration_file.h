@@ -32,6 +32,7 @@ struct GroupSums {
   std::uint64_t hours = 0;    ///< in the whole file
   std::uint64_t calm = 0;     ///< of those, marked so
   std::uint64_t missing = 0;  ///< of those, marked so
+  HourCount hourCount = HourCount::kUnknown;
   Hour first = 0;
   Hour last = 0;
 };

@@ -92,7 +92,7 @@ class Values {
   std::size_t line_ = 0;
 };
 
-Hour parseStart(std::string_view value, std::size_t line) {
+void parseStart(std::string_view value, std::size_t line, Case& theCase) {
   std::int64_t parts[4] = {};
   std::string_view rest = value;
   for (int i = 0; i < 4; ++i) {
@@ -106,8 +106,13 @@ Hour parseStart(std::string_view value, std::size_t line) {
     rest.remove_prefix(std::min(comma + 1, rest.size()));
   }
   const std::optional<Hour> start = hourFromDate(parts[0], parts[1], parts[2], parts[3]);
+  if (parts[0] < kEarliestYear) {
+    failAt(line, "gives the start as " + inQuotes(value) + "; the year must be " +
+                     std::to_string(kEarliestYear) + " or later, in four digits");
+  }
   if (!start) failAt(line, "gives the start as " + inQuotes(value) + "; there is no such hour");
-  return *start;
+  theCase.start = *start;
+  if (parts[3] == 24) theCase.startCount = HourCount::kFrom1To24;
 }
 
 SourceGroup nextGroup(Values& values) {
@@ -160,7 +165,7 @@ Case parseControl(const ControlText& text) {
   theCase.listFile = values.nextText("list file");
   theCase.species = values.nextText("species");
   const std::string_view start = values.next();
-  theCase.start = parseStart(start, values.line());
+  parseStart(start, values.line(), theCase);
   theCase.runHours = values.nextWhole("run length in hours", 1, 999999);
   const int groups = values.nextWhole("number of source groups", kFewestGroups, kMostGroups);
   requireLineCount(text, static_cast<std::size_t>(groups));

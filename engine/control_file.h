@@ -25,6 +25,8 @@ struct Case {
   std::string listFile;
   std::string species;
   Hour start = 0;
+  HourCount startCount =
+      HourCount::kFrom0To23;        ///< as line 3 gives the start: "24" is from 1 to 24
   std::int64_t runHours = 0;        ///< 1 to 999,999
   std::vector<SourceGroup> groups;  ///< 2 to 50: all sources, the facility, the others
   double scale = 0;                 ///< from g/m**3 to ug/m**3

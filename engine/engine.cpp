@@ -1,15 +1,18 @@
 #include "engine/engine.h"
 
+#include <algorithm>
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <exception>
+#include <iterator>
 #include <memory>
 #include <new>
 #include <string>
 #include <vector>
 
 #include "engine/blocks.h"
+#include "engine/clock.h"
 #include "engine/columns.h"
 #include "engine/concentration_file.h"
 #include "engine/control_file.h"
@@ -71,17 +74,20 @@ void reportElapsed(Clock::time_point begin, ListFile& list) {
 void compute(const Case& theCase, ListFile& list) {
   const auto begin = Clock::now();
   reportCase(theCase, list);
-  const Blocks blocks = planBlocks(theCase);
+  Blocks blocks = planBlocks(theCase);
   const auto files = openGroups(theCase);
   const auto receptorFile = openNamedFile(theCase.receptorFile, theCase.receptorLine);
   const Receptors receptors = readReceptors(*receptorFile, theCase.receptorFormat);
   const std::size_t count = receptors.list.size();
   reportReceptorFile(theCase, receptors, list);
   const std::vector<GroupSums> groups = readAll(theCase, files, blocks, count, list);
+  blocks.hourCount = agreeOnClock(theCase, groups);
   const RunHours hours = agreeOnHours(theCase, blocks, groups);
   const Names names{theCase, blocks, receptors.list};
   const Averages averages(theCase, blocks, groups, count, validHoursOfBlocks(blocks, hours));
-  reportAverages(theCase, blocks, linesOfMarkedHours(blocks, hours, averages), list);
+  std::vector<std::string> ofHours = linesOfClock(blocks);
+  std::ranges::move(linesOfMarkedHours(blocks, hours, averages), std::back_inserter(ofHours));
+  reportAverages(theCase, blocks, ofHours, list);
   const Judgement judgement = judge(theCase, averages);
   reportMaxima(names, judgement, list);
   reportCounts(names, judgement, list);

@@ -37,7 +37,7 @@ void reportTitle(ListFile& list) {
 void reportCase(const Case& theCase, ListFile& list) {
   list.line("CASE");
   list.line(fact("Species", theCase.species));
-  list.line(fact("Start (year-month-day hour)", dateText(theCase.start)));
+  list.line(fact("Start (year-month-day hour)", dateText(theCase.start, theCase.startCount)));
   list.line(fact("Run length", counted(static_cast<std::uint64_t>(theCase.runHours), "hour")));
   list.line(fact("Averaging period",
                  counted(static_cast<std::uint64_t>(theCase.averagingHours), "hour")));

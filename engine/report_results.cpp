@@ -7,6 +7,7 @@
 
 #include "engine/blocks.h"
 #include "engine/calendar.h"
+#include "engine/clock.h"
 #include "engine/columns.h"
 #include "engine/concentration_file.h"
 #include "engine/control_file.h"
@@ -25,8 +26,8 @@ std::string hoursText(std::int64_t hours) {
 
 std::string averaged(const Blocks& blocks) {
   return counted(static_cast<std::uint64_t>(blocks.count), "average") + " of " +
-         hoursText(blocks.hours) + ", " + dateText(blocks.start) + " to " +
-         dateText(blocks.end() - 1);
+         hoursText(blocks.hours) + ", " + blocks.nameOfHour(blocks.start) + " to " +
+         blocks.nameOfHour(blocks.end() - 1);
 }
 
 std::string maximumLine(const Names& names, const std::string& group, const char* kind,
@@ -46,7 +47,7 @@ void reportMisfit(const Names& names, const Averages& averages, const Misfit& mi
   list.line("  more than rounding explains. The worst case: " + fixed(own + worst.value, 4) +
             " against " + fixed(own, 4) + " ug/m**3 at receptor " +
             names.receptors[worst.receptor].id + ",");
-  list.line("  from " + dateText(names.blocks.startOf(static_cast<std::int64_t>(worst.block))) +
+  list.line("  from " + names.blocks.nameOf(worst.block) +
             ". The files may belong to different model runs.");
 }
 
@@ -65,8 +66,7 @@ std::string coordinate(double value) {
 std::string placeColumns(const Names& names, const Place& place) {
   const Receptor& receptor = names.receptors[place.receptor];
   return left(receptor.id, 12) + right(coordinate(receptor.x), 10) +
-         right(coordinate(receptor.y), 10) + "  " +
-         dateText(names.blocks.startOf(static_cast<std::int64_t>(place.block)));
+         right(coordinate(receptor.y), 10) + "  " + names.blocks.nameOf(place.block);
 }
 
 std::string placeHeadings() {
@@ -84,9 +84,9 @@ void reportGroupFile(const SourceGroup& group, const GroupSums& sums, std::size_
                      ListFile& list) {
   list.line("  " + left(group.name, 15) + group.file);
   list.line("  " + left("", 15) + counted(sums.bytes, "byte") + ", " + counted(sums.lines, "line") +
-            ", " + counted(sums.hours, "hour") + " (" + dateText(sums.first) + " to " +
-            dateText(sums.last) + "), " + counted(receptors, "receptor"));
-  list.line("  " + left("", 15) + markedText(sums));
+            ", " + counted(sums.hours, "hour") + " (" + dateText(sums.first, sums.hourCount) +
+            " to " + dateText(sums.last, sums.hourCount) + "), " + counted(receptors, "receptor"));
+  list.line("  " + left("", 15) + clockText(sums.hourCount) + "; " + markedText(sums));
 }
 
 void reportAverages(const Case& theCase, const Blocks& blocks, const std::vector<std::string>& more,

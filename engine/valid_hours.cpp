@@ -34,7 +34,7 @@ void agree(const Case& theCase, const Blocks& blocks, std::size_t group,
     if (own[i] == kinds[i]) continue;
     if (isMark(own[i]) || isMark(kinds[i])) {
       failDisagreeing(theCase.groups.front(), kinds[i], theCase.groups[group], own[i],
-                      dateText(blocks.start + static_cast<Hour>(i)));
+                      blocks.nameOfHour(blocks.start + static_cast<Hour>(i)));
     }
     kinds[i] = HourKind::kValid;
   }

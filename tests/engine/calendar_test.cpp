@@ -32,12 +32,17 @@ TEST(Calendar, KnowsWhichDatesThereAre) {
   EXPECT_FALSE(hourFromDate(2009, 1, 0, 0));
   EXPECT_FALSE(hourFromDate(2009, 1, 1, 25));
   EXPECT_FALSE(hourFromDate(10000, 1, 1, 0));
+  EXPECT_FALSE(hourFromDate(1899, 12, 31, 23));
+  EXPECT_TRUE(hourFromDate(1900, 1, 1, 0));
 }
 
-TEST(Calendar, WritesDatesWithHours0To23) {
+TEST(Calendar, WritesDatesAsTheHoursAreCounted) {
   EXPECT_EQ(dateText(341880), "2009-01-01 00");
   EXPECT_EQ(dateText(341880 - 1), "2008-12-31 23");
-  EXPECT_EQ(dateText(*hourFromDate(7, 6, 5, 4)), "0007-06-05 04");
+  EXPECT_EQ(dateText(341880, HourCount::kFrom1To24), "2008-12-31 24");
+  EXPECT_EQ(dateText(341880 + 1, HourCount::kFrom1To24), "2009-01-01 01");
+  EXPECT_EQ(hourOfDay(341880, HourCount::kFrom1To24), 23);
+  EXPECT_EQ(hourOfDay(341880, HourCount::kUnknown), 0);
 }
 
 TEST(Calendar, KnowsTheLengthOfTheYearFromAnyStart) {

@@ -43,6 +43,7 @@ class Study:
         self.background = rng.choice(["0", "0", "12.5", "3", "0.125"])
         self.separator = rng.choice([" ", "  ", "\t", ",", ", ", " ,"])
         self.line_end = rng.choice(["\n", "\r\n"])
+        self.midnight_is_24 = rng.random() < 0.3
         self.names = ["ALL_SOURCES", "FACILITY"] + ["OTHER_%d" % i for i in range(1, 49)]
         self.make_values()
         self.compute()
@@ -51,7 +52,7 @@ class Study:
     def choose_period(self):
         """The averaging period, the run length, and hours in the files outside of the run."""
         rng = self.rng
-        self.averaging = rng.choice([1, 3, 3, 8, 24, 24, 8760, 8784])
+        self.averaging = rng.choice([1, 3, 3, 8, 24, 24, 48, 8760, 8784])
         self.annual = self.averaging >= 8760
         self.run = rng.randint(1, 400) if self.annual else rng.randint(self.averaging, 130)
         self.block = self.run if self.annual else self.averaging
@@ -145,20 +146,35 @@ class Study:
 
     def write_group(self, path, rows):
         moment = self.start - datetime.timedelta(hours=self.before)
-        midnight_is_24 = self.rng.random() < 0.3
         with open(path, "w", newline="") as out:
             out.write("# hourly values%s#%s" % (self.line_end, self.line_end))
             for row, mark in zip(rows, self.marks):
                 row = [mark] if mark else row
-                day, hour = moment, moment.hour
-                if midnight_is_24 and hour == 0:
-                    day, hour = moment - datetime.timedelta(days=1), 24
+                day, hour = self.named(moment)
                 fields = [str(day.year), "%02d" % day.month, str(day.day), "%d" % hour] + row
                 out.write(self.separator.join(fields) + self.line_end)
                 moment += datetime.timedelta(hours=1)
 
+    def named(self, moment):
+        """The day and the hour as the files count them."""
+        if self.midnight_is_24 and moment.hour == 0:
+            return moment - datetime.timedelta(days=1), 24
+        return moment, moment.hour
+
+    def date_of(self, hours):
+        """So many hours after the start, as the list file should name it."""
+        day, hour = self.named(self.start + datetime.timedelta(hours=hours))
+        return day.strftime("%Y-%m-%d ") + "%02d" % hour
+
     def date(self, block):
-        return (self.start + datetime.timedelta(hours=block * self.block)).strftime("%Y-%m-%d %H")
+        return self.date_of(block * self.block)
+
+    def off_the_clock(self):
+        if self.annual:
+            return False
+        moments = [(self.start + datetime.timedelta(hours=b * self.block)) for b in range(self.blocks)]
+        first = 1 if self.midnight_is_24 else 0
+        return any((m.hour - first) % 24 % min(self.block, 24) for m in moments)
 
 
 class Difference(Exception):
@@ -288,7 +304,14 @@ def check_hours(study, lines):
     if m:
         need((int(m[1]), int(m[2]), int(m[3])) ==
              (len(used), used.count("calm"), used.count("missing")), "numbers of marked hours")
-    of_files = [re.match(r" {17}(\d+) hours? calm, (\d+) hours? missing$|( {17}no hour marked)$", line)
+    shown = {study.named(study.start + datetime.timedelta(hours=h - study.before))[1]
+             for h in range(len(study.marks))}
+    counted = "1 to 24" if 24 in shown else "0 to 23" if 0 in shown else "0 to 23 or 1 to 24, both would fit"
+    if {0, 24} & shown:
+        need(("Off the clock" in text) == study.off_the_clock(), "clock of the averages")
+    span = "%s to %s" % (study.date_of(0), study.date_of(study.blocks * study.block - 1))
+    need(span in text, "hours of the averages, " + span)
+    of_files = [re.match(r" {17}hours counted " + counted + r"; (?:(\d+) hours? calm, (\d+) hours? missing|no hour marked)$", line)
                 for line in lines]
     of_files = [m for m in of_files if m]
     need(len(of_files) == study.groups, "marked hours of files")

@@ -54,7 +54,7 @@ const BadLine kBadLines[] = {
     {3, "1900,02,29,00", "there is no such hour"},
     {3, "2009,13,01,00", "there is no such hour"},
     {3, "2009,01,01,25", "there is no such hour"},
-    {3, "0000,01,01,01", "there is no such hour"},
+    {3, "0000,01,01,01", "the year must be 1900 or later, in four digits"},
     {4, "0", "a whole number from 1 to 999999"},
     {4, "", "a whole number from 1 to 999999"},
     {4, "24.0", "a whole number from 1 to 999999"},

@@ -86,9 +86,9 @@ TEST(ValidHours, AreDividedByThreeQuartersOfTheHoursAtLeast) {
               {4, 1, 3},    {8, 5, 6},    {8, 7, 7},  {24, 0, 18}, {24, 17, 18},
               {24, 19, 19}, {24, 24, 24}, {12, 0, 9}, {15, 3, 12}, {720, 0, 540}};
   for (const auto& row : rows) {
-    EXPECT_EQ(divisorOf({0, row.hours, 1, 0, false}, row.valid), row.divisor) << row.hours;
+    EXPECT_EQ(divisorOf({0, row.hours, 1, 0, false, {}}, row.valid), row.divisor) << row.hours;
   }
-  EXPECT_EQ(divisorOf({0, 8760, 1, 0, true}, 3), 3);
+  EXPECT_EQ(divisorOf({0, 8760, 1, 0, true, {}}, 3), 3);
 }
 
 // Six hours as two averages, or as an annual one; every file with these lines.
@@ -105,7 +105,7 @@ const Marked kMarked[] = {
      {"ALL_SOURCES    1st             6.0000  B ", "FACILITY       1st             6.0000  B ",
       "Of the 4 hours used, 1 hour calm, 1 hour missing: left out.",
       "Sums are divided by the number of valid hours, but by 3 at least.",
-      "               2 hours calm, 1 hour missing\r\n", "WARNINGS\r\n  None.\r\n"}},
+      "  hours counted 0 to 23; 2 hours calm, 1 hour missing\r\n", "WARNINGS\r\n  None.\r\n"}},
     // An annual one by its valid hours: 12 / 2 and 18 / 2.
     {"8760",
      {"calm", "6E-06 9E-06", "calm", "missing", "6E-06 9E-06", "calm"},
@@ -121,7 +121,7 @@ const Marked kMarked[] = {
       "counted as valid.",
       "If they were calm, the highest average of ALL_SOURCES would be 9.0000 instead of 7.5000 "
       "ug/m**3,\r\n  with 1 exceedance instead of 0.",
-      "               no hour marked\r\n"}},
+      "counted 0 to 23; no hour marked\r\n"}},
     {"3",
      {"0 0", "3E-06 0", "3E-06 0", "0 1e-300", "3E-06 0", "3E-06 0"},
      {"1 hour is zero at every", "If it was calm, neither the highest average nor the number"}},
