@@ -10,7 +10,7 @@
 namespace korventally::engine {
 
 LineReader::LineReader(InputFile& file, std::size_t longestLine)
-    : file_(file), longestLine_(longestLine), buffer_(kBlock + kPadding) {}
+    : file_(file), longestLine_(longestLine), buffer_(kBlock + 2 * kPadding) {}
 
 bool LineReader::next(std::string_view& line) {
   std::size_t searched = begin_;
@@ -48,9 +48,9 @@ void LineReader::requireLength(std::size_t length) const {
 
 void LineReader::makeRoom() {
   requireLength(end_ - begin_);
-  std::memmove(buffer_.data(), &buffer_[begin_], end_ - begin_);
-  end_ -= begin_;
-  begin_ = 0;
+  std::memmove(&buffer_[kPadding], &buffer_[begin_], end_ - begin_);
+  end_ -= begin_ - kPadding;
+  begin_ = kPadding;
   if (end_ + kBlock / 2 > buffer_.size() - kPadding) buffer_.resize(buffer_.size() + kBlock);
 }
 

@@ -13,7 +13,7 @@ namespace korventally::engine {
 
 class LineReader {
  public:
-  /// So many bytes behind a line may be read (not used), whatever stands in them.
+  /// So many bytes in front of a line and behind it may be read (not used), whatever they hold.
   static constexpr std::size_t kPadding = 64;
   static constexpr std::size_t kBlock = 256 * std::size_t{1024};
 
@@ -39,8 +39,8 @@ class LineReader {
   InputFile& file_;
   const std::size_t longestLine_;
   std::vector<char> buffer_;
-  std::size_t begin_ = 0;  ///< of what has not been delivered
-  std::size_t end_ = 0;    ///< of what has been read
+  std::size_t begin_ = kPadding;  ///< of what has not been delivered
+  std::size_t end_ = kPadding;    ///< of what has been read
   std::uint64_t lineNumber_ = 0;
   bool complete_ = true;
 };

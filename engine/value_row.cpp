@@ -1,8 +1,10 @@
 #include "engine/value_row.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstddef>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -10,7 +12,7 @@
 
 #include "engine/fields.h"
 #include "engine/text.h"
-#include "engine/value_shape.h"
+#include "engine/value_text.h"
 
 namespace korventally::engine {
 namespace {
@@ -29,23 +31,50 @@ bool ValueRow::addTo(std::span<double> sums, std::string_view values) {
   double* sum = sums.data();
   double* const end = sum + sums.size();
   while (sum != end) {
-    if (shape_ != 0) {
-      addShaped(shape_, at, sum, end);
-      if (sum == end) break;
-    }
-    if (at[0] == ' ' && at[1] == ' ') {
-      ++at;  // a row of blanks
-      continue;
-    }
-    Fields fields = Fields::continuing({at, static_cast<std::size_t>(lineEnd - at)});
-    std::string_view field;
-    double value = 0;
-    if (!fields.next(field) || !isConcentration(field, value)) return false;
-    *sum++ += value;
-    shape_ = shapeOf(field.data()[-1], field);
-    at = fields.rest().data();
+    if (!addAlike(at, lineEnd, sum, end)) return false;
+    if (sum == end) break;
+    if (!addNext(at, lineEnd, *sum)) return false;
+    ++sum;
   }
   return isBlank({at, static_cast<std::size_t>(lineEnd - at)});
+}
+
+// As many values as look like earlier ones. Where no two look alike, trying costs more than it
+// saves: the longer in vain, the more values are let pass.
+bool ValueRow::addAlike(const char*& at, const char* lineEnd, double*& sum, double* end) {
+  constexpr int kMostPasses = 63;
+  if (passes_ > 0) {
+    --passes_;
+    return true;
+  }
+  const double* const before = sum;
+  shape_.add(at, lineEnd, sum, end);
+  if (!decimals_.add(at, lineEnd, sum, end)) return false;
+  misses_ = sum == before ? std::min(2 * misses_ + 1, kMostPasses) : 0;
+  passes_ = misses_;
+  return true;
+}
+
+// One value of any form; `at` then stands behind it.
+bool ValueRow::addNext(const char*& at, const char* lineEnd, double& sum) {
+  Fields fields = Fields::continuing({at, static_cast<std::size_t>(lineEnd - at)});
+  std::string_view field;
+  if (!fields.next(field)) return false;
+  double value = 0;
+  if (const std::optional<UsualDecimal> usual = usualDecimal(field)) {
+    value = usual->number;
+    if (value > kLargestValue) return false;
+    if (usual->hasExponent) {
+      shape_.learn({at, static_cast<std::size_t>(field.data() - at)}, field);
+    } else {
+      decimals_.learn(usual->decimals);
+    }
+  } else if (!isConcentration(field, value)) {
+    return false;
+  }
+  sum += value;
+  at = fields.rest().data();
+  return true;
 }
 
 std::string explainValues(std::string_view values, std::size_t expected) {

@@ -6,23 +6,34 @@
 #include <string>
 #include <string_view>
 
+#include "engine/value_decimals.h"
+#include "engine/value_shape.h"
+
 namespace korventally::engine {
 
 /// Larger values, in g/m**3, are no concentrations of anything; they are refused as unreadable.
 inline constexpr double kLargestValue = 1e9;
 
-/// Reads lines whose values usually look alike. Once a value of the form "1.23456E-05" was met,
-/// values of that very shape are read two at a time (value_shape.h); every other value goes through
-/// std::from_chars. Both ways give the same, correctly rounded double.
+/// Reads lines whose values usually look alike. Once a value like "1.23456E-05" was met, values of
+/// that very shape are read two at a time (value_shape.h), and once one like "0.00123" was met,
+/// values with as many decimals (value_decimals.h); every other value is read by itself. All ways
+/// give the same, correctly rounded double as std::from_chars.
 class ValueRow {
  public:
   /// Adds as many values as `sums` has room for. `values` begins with a separator, must be followed
-  /// by '\r' or '\n' and then by LineReader::kPadding readable bytes. False when there are more or
-  /// fewer values, or one that is no number from 0 to kLargestValue; `sums` is then spoilt.
+  /// by '\r' or '\n' and then by LineReader::kPadding readable bytes, of which as many stand in
+  /// front of it. False when there are more or fewer values, or one that is no number from 0 to
+  /// kLargestValue; `sums` is then spoilt.
   bool addTo(std::span<double> sums, std::string_view values);
 
  private:
-  std::size_t shape_ = 0;  ///< of the value last read by std::from_chars; 0: none of its own
+  bool addAlike(const char*& at, const char* lineEnd, double*& sum, double* end);
+  bool addNext(const char*& at, const char* lineEnd, double& sum);
+
+  ValueShape shape_;
+  ValueDecimals decimals_;
+  int misses_ = 0;  // how often decimals_ took nothing, as the number of values to let pass
+  int passes_ = 0;  // of those still to let pass
 };
 
 /// What is wrong with values that addTo() refused, to follow "The file F, line N": for example

@@ -1,20 +1,35 @@
-// The fast way of ValueRow: values that all have one shape, two at a time.
-//
-// Needs SSE2, which every 64-bit x86 processor has; nothing newer, so that one program runs on all.
+// The fastest way of ValueRow: values that all have one shape, two at a time.
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string_view>
 
 namespace korventally::engine {
 
-/// The number of the shape of a field like "1.23456E-05" with 1 to 7 decimals behind this separator
-/// (a blank or a comma), or 0 when it has no such shape.
-std::size_t shapeOf(char separator, std::string_view field);
+/// The shape of values like "1.23456E-05", with 1 to 7 decimals and an exponent of two digits,
+/// together with the separators in front of them.
+class ValueShape {
+ public:
+  /// Takes over the shape of this value and of what parts it from the value before, if it has one.
+  void learn(std::string_view separators, std::string_view field);
 
-/// Adds the values at `at` to the sums from `sum` on, as long as they have this shape, each with
-/// one separator in front; `at` and `sum` then stand behind the last value taken. The line must be
-/// followed by '\r' or '\n' and by LineReader::kPadding readable bytes.
-void addShaped(std::size_t shape, const char*& at, double*& sum, double* end);
+  /// Adds the values at `at` to the sums from `sum` on, as long as they have the shape; `at` and
+  /// `sum` then stand behind the last value taken. `at` stands on a separator; behind `lineEnd`
+  /// there are LineReader::kPadding readable bytes.
+  void add(const char*& at, const char* lineEnd, double*& sum, double* end) const;
+
+ private:
+  static constexpr std::size_t kPieces = 4;  // of 16 bytes; a longer shape is none
+
+  bool fits(const char* text, std::size_t piece = 0) const;
+
+  // From the first separator to the byte behind the value, and no matter what after that.
+  [[maybe_unused]] alignas(16) std::uint8_t least_[16 * kPieces] = {};
+  [[maybe_unused]] alignas(16) std::uint8_t span_[16 * kPieces] = {};  // largest minus least
+  [[maybe_unused]] std::size_t pieces_ = 0;                            // 0: no shape
+  [[maybe_unused]] std::size_t separators_ = 0;
+  [[maybe_unused]] std::size_t decimals_ = 0;
+};
 
 }  // namespace korventally::engine

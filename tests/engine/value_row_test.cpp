@@ -14,17 +14,22 @@
 namespace korventally::engine {
 namespace {
 
-// A row as the reader of a file hands it over: a line end and readable bytes follow.
+// A row as the reader of a file hands it over: between readable bytes that look like values too,
+// and not a byte more of them than that.
 class Row {
  public:
-  explicit Row(const std::string& values)
-      : size_(values.size()), text_(values + "\n" + std::string(LineReader::kPadding, '7')) {}
+  explicit Row(const std::string& values) : size_(values.size()) {
+    std::string around;
+    while (around.size() < LineReader::kPadding) around += "1.00000 ";
+    const std::string text = around + values + "\n" + around;
+    text_.assign(text.begin(), text.end());
+  }
 
-  std::string_view values() const { return std::string_view(text_).substr(0, size_); }
+  std::string_view values() const { return {&text_[LineReader::kPadding], size_}; }
 
  private:
   std::size_t size_;
-  std::string text_;
+  std::vector<char> text_;
 };
 
 std::string formatted(std::mt19937& random, const std::string& format) {
@@ -37,21 +42,33 @@ std::string formatted(std::mt19937& random, const std::string& format) {
 
 // The C library's strtod is the independent judge: both must round correctly.
 TEST(ValueRow, ReadsEveryFormatExactlyAsTheCLibraryDoes) {
-  const char* formats[] = {"%.5E", "%.5e", "%.1E", "%.7E", "%.8E", "%.6f", "%.17g", "%g", "%.3E"};
-  const char* separators[] = {" ", "   ", "\t", ",", ", ", " ,", "\t ,\t"};
+  const char* formats[] = {"%.5E",  "%.5e",  "%.1E", "%.7E",  "%.8E",    "%.6f", "%.5f", "%13.5f",
+                           "%.12f", "%.17g", "%g",   "%.13f", "%020.5f", "%.3E", "%.1f", "%.6G"};
+  const std::string separators[] = {" ",
+                                    "   ",
+                                    "\t",
+                                    ",",
+                                    ", ",
+                                    " ,",
+                                    "\t ,\t",
+                                    std::string(25, ' '),
+                                    "," + std::string(70, ' ')};
   std::mt19937 random(42);
-  for (int round = 0; round < 2000; ++round) {
+  const auto oneOf = [&](const auto& choices) { return choices[random() % std::size(choices)]; };
+  for (int round = 0; round < 4000; ++round) {
     std::string line;
     std::vector<double> expected;
-    const char* format = formats[random() % std::size(formats)];
-    for (int i = 0; i < 20; ++i) {
-      // Mostly one shape, as in real files, with a stranger now and then.
-      if (random() % 10 == 0) format = formats[random() % std::size(formats)];
+    // Mostly one form, as in real files, with a stranger now and then.
+    const unsigned strangers = round % 3 == 0 ? 8 : 100;
+    const char* format = oneOf(formats);
+    std::string separator = oneOf(separators);
+    for (int i = 0; i < 60; ++i) {
+      if (random() % strangers == 0) format = oneOf(formats);
       const std::string value = formatted(random, format);
-      line += separators[random() % 5 == 0 ? random() % std::size(separators) : 0] + value;
+      line += (random() % strangers == 0 ? oneOf(separators) : separator) + value;
       expected.push_back(std::strtod(value.c_str(), nullptr));
     }
-    std::vector<double> sums(20, 0.0);
+    std::vector<double> sums(expected.size(), 0.0);
     ValueRow row;
     ASSERT_TRUE(row.addTo(sums, Row(line).values())) << line;
     ASSERT_EQ(sums, expected) << line;
@@ -95,35 +112,68 @@ const BadRow kBadRows[] = {
     {",,1", ", value 1 is \"\", which is not a number"},
     {" 1,,2", ", value 2 is \"\", which is not a number"},
     {" 1,2,", ", value 3 is \"\", which is not a number"},
+    {" 1.00000 1.00000x", ", value 2 is \"1.00000x\", which is not a number"},
+    {" 1.0.00000 1.00000", ", value 1 is \"1.0.00000\", which is not a number"},
+    {" 1.2.345 7", ", value 1 is \"1.2.345\", which is not a number"},
+    {" 1.00.000 1.00000", ", value 1 is \"1.00.000\", which is not a number"},
+    {" 1.00000 1..00000", ", value 2 is \"1..00000\", which is not a number"},
+    {" 1.00000 1..0000", ", value 2 is \"1..0000\", which is not a number"},
+    {" 1.00000.0 1", ", value 1 is \"1.00000.0\", which is not a number"},
+    {" 1.00000 1/0.00000", ", value 2 is \"1/0.00000\", which is not a number"},
+    {" 1.00000 -1.00000", ", value 2 is \"-1.00000\", which is negative"},
+    {" 1.00000 1000000001.00000",
+     ", value 2 is \"1000000001.00000\", which is larger than any concentration"},
+    {" 1.00000 9999999999999999.00000",
+     ", value 2 is \"9999999999999999.00000\", which is larger than any concentration"},
+    {" 1.0 1000000001.0", ", value 2 is \"1000000001.0\", which is larger than any concentration"},
+    {" 1 18446744073709551617",
+     ", value 2 is \"18446744073709551617\", which is larger than any concentration"},
+    {",1.00000, ,1.00000", ", value 2 is \"\", which is not a number"},
+    {",1.00000,                                                                 ,1.00000",
+     ", value 2 is \"\", which is not a number"},
+    {",1.00000 ,,1.00000", ", value 2 is \"\", which is not a number"},
+    {",1.00000,1.00000, ", ", value 3 is \"\", which is not a number"},
     {" 1 \x01", ", value 2 is \"?\", which is not a number"},
 };
 
 TEST(ValueRow, RefusesWhatIsNotTwoConcentrationsAndSaysWhy) {
+  // With values in front that take each of the ways through the code, and end at every place.
+  const char* const alike[] = {" 1.00000E-05", "  1.00000E-05", ",1.00000", " 2.5000", "  2.5"};
   for (const BadRow& bad : kBadRows) {
     SCOPED_TRACE(bad.values);
-    const Row values(bad.values);
-    // Also with the shape of " 1.00000E-05" in mind, which takes the other way through the code.
-    for (const bool warm : {false, true}) {
-      ValueRow row;
-      double one[1] = {};
-      if (warm) {
-        ASSERT_TRUE(row.addTo(one, Row(" 1.00000E-05").values()));
+    EXPECT_EQ(explainValues(bad.values, 2), bad.says);
+    for (const std::string before : alike) {
+      std::string values;
+      for (std::size_t count = 0; count < 40; ++count, values += before) {
+        std::vector<double> sums(count + 2);
+        ValueRow row;
+        EXPECT_FALSE(row.addTo(sums, Row(values + bad.values).values())) << values;
       }
-      double sums[2] = {};
-      EXPECT_FALSE(row.addTo(sums, values.values()));
     }
-    EXPECT_EQ(explainValues(values.values(), 2), bad.says);
   }
 }
 
-TEST(ValueRow, TakesTheEdgesOfTheRange) {
-  double sums[4] = {};
+// One way of reading leaves what stands behind its last value to the next one.
+TEST(ValueRow, RefusesOtherSeparatorsWhereOneFormFollowsAnother) {
+  std::string values = " 1.00000 1.0E-05 1.0E-05 1.0E-05";
+  for (int i = 0; i < 16; ++i) values += "\v1.00000";
+  double sums[20] = {};
   ValueRow row;
-  ASSERT_TRUE(row.addTo(sums, Row(" 1e9 -0.0 9.99999E+07 1.00000E-105").values()));
+  EXPECT_FALSE(row.addTo(sums, Row(values).values()));
+}
+
+TEST(ValueRow, TakesTheEdgesOfTheRange) {
+  double sums[8] = {};
+  ValueRow row;
+  const Row values(" 1e9 -0.0 9.99999E+07 1.00000E-105 .5 5. 1000000000.0 000000000.1");
+  ASSERT_TRUE(row.addTo(sums, values.values()));
   EXPECT_EQ(sums[0], 1e9);
   EXPECT_EQ(sums[1], 0.0);
   EXPECT_EQ(sums[2], 99999900.0);
   EXPECT_EQ(sums[3], 1e-105);
+  EXPECT_EQ(sums[4] + sums[5], 5.5);
+  EXPECT_EQ(sums[6], 1e9);
+  EXPECT_EQ(sums[7], 0.1);
 }
 
 }  // namespace
