@@ -6,7 +6,8 @@
 namespace korventally::engine {
 
 /// Values like "0.00123" and "1234.56789" that all have equally many decimals, parted by any
-/// mixture of blanks, tabs and single commas.
+/// mixture of blanks, tabs and single commas. value_decimals_sse2.cpp or, where the processor has
+/// no SSE2, value_plain.cpp stand behind it; the plain one takes nothing.
 class ValueDecimals {
  public:
   /// Takes over the number of decimals of a value without exponent, if it is 1 to 12.

@@ -8,7 +8,8 @@
 namespace korventally::engine {
 
 /// The shape of values like "1.23456E-05", with 1 to 7 decimals and an exponent of two digits,
-/// together with the separators in front of them.
+/// together with the separators in front of them. value_shape_sse2.cpp or, where the processor has
+/// no SSE2, value_plain.cpp stand behind it; the plain one knows no shape.
 class ValueShape {
  public:
   /// Takes over the shape of this value and of what parts it from the value before, if it has one.
