@@ -19,10 +19,12 @@ class Messages : public testing::Test {
     answer(message, reply);
   }
 
-  /// After the message the box at fault has the focus.
+  /// After the message the box at fault has the focus, and its text is selected.
   void expectRefused(std::string_view button, std::string_view box, const std::wstring& text) {
     expectMessage(button, text);
     EXPECT_TRUE(waitUntil([&] { return wizard.focused(box); }, 2s)) << box;
+    const LRESULT selection = ask(wizard.find(box), EM_GETSEL);
+    EXPECT_EQ(selection, MAKELONG(0, wizard.text(box).size())) << "for another text to be typed";
   }
 
   void select(std::string_view option) {
