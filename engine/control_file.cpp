@@ -39,8 +39,7 @@ class Values {
     if (line_ > text_.lines.size()) failAt(line_, "is missing");
     const std::string_view whole = text_.lines[line_ - 1];
     if (!whole.starts_with(kPrefix)) failAt(line_, "does not begin with 29 blanks and a colon");
-    const auto isControl = [](char c) { return static_cast<unsigned char>(c) < 0x20; };
-    if (std::ranges::any_of(whole, isControl)) failAt(line_, "holds a control character");
+    if (hasControl(whole)) failAt(line_, "holds a control character");
     return whole.substr(kPrefix.size());
   }
 

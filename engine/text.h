@@ -15,6 +15,13 @@ std::optional<std::int32_t> parseWhole(std::string_view text);
 /// no blank, no "inf", no "nan", nothing beyond the range of a double. Otherwise nothing.
 std::optional<double> parseDecimal(std::string_view text);
 
+/// A number as parseDecimal() takes it, and as programs in Fortran write it: an exponent of three
+/// digits has no letter ("0.282465-103"). What is too small for a double is the nearest one, zero.
+std::optional<double> parseModelNumber(std::string_view text);
+
+/// True when the text has a byte that is no character but a command, such as a tab or DEL.
+bool hasControl(std::string_view text);
+
 /// The text in double quotes, for a message. Bytes that would tear the line apart become "?",
 /// and a long text is cut, so that whatever a file holds stays inside one sentence.
 std::string inQuotes(std::string_view text);

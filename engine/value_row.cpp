@@ -20,7 +20,12 @@ namespace {
 bool isConcentration(std::string_view field, double& value) {
   const char* end = field.data() + field.size();
   const auto [stop, error] = std::from_chars(field.data(), end, value);
-  return error == std::errc{} && stop == end && value >= 0 && value <= kLargestValue;
+  if (error != std::errc{} || stop != end) {
+    const std::optional<double> number = parseModelNumber(field);
+    if (!number) return false;
+    value = *number;
+  }
+  return value >= 0 && value <= kLargestValue;
 }
 
 }  // namespace
@@ -84,11 +89,12 @@ std::string explainValues(std::string_view values, std::size_t expected) {
     ++count;
     double value = 0;
     if (isConcentration(field, value)) continue;
-    const bool negative = field.size() > 1 && field.front() == '-' && parseDecimal(field);
+    const bool isNumber = parseModelNumber(field).has_value();
+    const bool negative = isNumber && field.front() == '-';
     return ", value " + std::to_string(count) + " is " + inQuotes(field) + ", which is " +
-           (negative              ? "negative"
-            : parseDecimal(field) ? "larger than any concentration"
-                                  : "not a number");
+           (negative   ? "negative"
+            : isNumber ? "larger than any concentration"
+                       : "not a number");
   }
   return " holds " + counted(count, "value") + " instead of " + grouped(expected) +
          ", one for each receptor";

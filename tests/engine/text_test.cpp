@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 
 #include "engine/columns.h"
 
@@ -27,8 +28,32 @@ TEST(Text, DecimalsFillTheWholeTextAndAreFinite) {
   }
 }
 
+TEST(Text, ModelsMayLeaveOutTheLetterAndGoBelowTheSmallestNumber) {
+  const std::string nines(400, '9');
+  const std::pair<std::string, double> rows[] = {
+      {"0.282465-103", 0.282465e-103},
+      {"-1.5+101", -1.5e101},
+      {"1.5E-05", 1.5e-5},
+      {"1e-310", 1e-310},
+      {"0.1-322", 1e-323},
+      {"0.1-323", 0},
+      {"1e-400", 0},
+      {"0.1-999", 0},
+      {"1e-99999999999999999999", 0},
+      {"0." + std::string(400, '0') + "7", 0},
+      {nines + "e-400", 1},
+  };
+  for (const auto& [text, number] : rows) EXPECT_EQ(parseModelNumber(text), number) << text;
+  for (const std::string& bad :
+       {std::string("1e400"), nines, nines + "e-5", std::string("0.5-99"), std::string("5-103"),
+        std::string("0.5-1x3"), std::string("0.5--03"), std::string("1e99999999999999999999"),
+        std::string(""), std::string("1.0D-05"), std::string("2.+-12")}) {
+    EXPECT_EQ(parseModelNumber(bad), std::nullopt) << bad;
+  }
+}
+
 TEST(Text, QuotedTextStaysInsideOneSentence) {
-  EXPECT_EQ(inQuotes("a\r\nRUN COMPLETED\t"), "\"a??RUN COMPLETED?\"");
+  EXPECT_EQ(inQuotes("a\r\nRUN COMPLETED\t\x7F"), "\"a??RUN COMPLETED??\"");
   EXPECT_EQ(inQuotes(std::string(261, 'x')), "\"" + std::string(260, 'x') + "...\"");
   EXPECT_EQ(inQuotes(std::string(260, 'x')), "\"" + std::string(260, 'x') + "\"");
 }

@@ -163,9 +163,11 @@ TEST(ValueRow, RefusesOtherSeparatorsWhereOneFormFollowsAnother) {
 }
 
 TEST(ValueRow, TakesTheEdgesOfTheRange) {
-  double sums[8] = {};
+  double sums[11] = {};
   ValueRow row;
-  const Row values(" 1e9 -0.0 9.99999E+07 1.00000E-105 .5 5. 1000000000.0 000000000.1");
+  const Row values(
+      " 1e9 -0.0 9.99999E+07 1.00000E-105 .5 5. 1000000000.0 000000000.1 0.28246-103 1.00000E-400 "
+      "1.00000E-01");
   ASSERT_TRUE(row.addTo(sums, values.values()));
   EXPECT_EQ(sums[0], 1e9);
   EXPECT_EQ(sums[1], 0.0);
@@ -174,6 +176,9 @@ TEST(ValueRow, TakesTheEdgesOfTheRange) {
   EXPECT_EQ(sums[4] + sums[5], 5.5);
   EXPECT_EQ(sums[6], 1e9);
   EXPECT_EQ(sums[7], 0.1);
+  EXPECT_EQ(sums[8], 0.28246e-103);
+  EXPECT_EQ(sums[9], 0.0);
+  EXPECT_EQ(sums[10], 0.1);
 }
 
 }  // namespace
