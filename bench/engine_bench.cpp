@@ -34,7 +34,7 @@ Made make(const StudySize& size) {
 
 engine::Blocks daysOf(const StudySize& size) {
   const auto days = static_cast<std::int64_t>(size.hours / 24);
-  return {*engine::hourFromDate(2009, 1, 1, 0), 24, days, 0, false};
+  return {*engine::hourFromDate(2009, 1, 1, 0), 24, days, 0, false, {}};
 }
 
 // A year of 1,000 receptors and 5 groups, from the control file to the verdict. The argument is
@@ -54,8 +54,10 @@ BENCHMARK(wholeRun)->Arg(24)->Arg(3)->Arg(8760)->UseRealTime()->Unit(benchmark::
 
 void readFile(const std::filesystem::path& path, const StudySize& size) {
   engine::InputFile file(path);
+  engine::Receptors receptors;
+  receptors.list.resize(size.receptors);
   const auto sums =
-      engine::readConcentrations(file, daysOf(size), size.receptors, [] { return false; });
+      engine::readConcentrations(file, daysOf(size), receptors, true, [] { return false; });
   benchmark::DoNotOptimize(sums.sums.data());
 }
 

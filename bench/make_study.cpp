@@ -6,6 +6,7 @@
 #include <fstream>
 #include <random>
 #include <stdexcept>
+#include <string>
 #include <vector>
 
 #include "engine/calendar.h"
@@ -36,7 +37,9 @@ void writeGroup(const std::filesystem::path& path, const StudySize& size, std::s
   std::minstd_rand random(static_cast<unsigned>(group + 1));
   std::vector<double> decades;
   for (int i = 0; i < 7; ++i) decades.push_back(i == 6 ? 0.0 : 1e-4 / std::pow(10.0, i));
-  std::string line = "# hourly concentrations in g/m**3\n";
+  std::string line = "# hourly concentrations in g/m**3\n# receptors:";
+  for (std::size_t i = 0; i < size.receptors; ++i) line += " R" + std::to_string(i + 1);
+  line += '\n';
   for (std::size_t hour = 0; hour < size.hours; ++hour) {
     line += dateFields(kStart + static_cast<engine::Hour>(hour));
     for (std::size_t i = 0; i < size.receptors; ++i) {

@@ -1,11 +1,11 @@
 #include "engine/concentration_file.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -13,9 +13,12 @@
 
 #include "engine/blocks.h"
 #include "engine/calendar.h"
+#include "engine/column_names.h"
+#include "engine/column_sums.h"
 #include "engine/fault.h"
 #include "engine/fields.h"
 #include "engine/line_reader.h"
+#include "engine/receptor_file.h"
 #include "engine/system_files.h"
 #include "engine/text.h"
 #include "engine/value_row.h"
@@ -24,8 +27,21 @@
 namespace korventally::engine {
 namespace {
 
-// Room for a date and generously written values; a longer line is no line of this file.
-std::size_t longestLine(std::size_t receptors) { return 4096 + 64 * receptors; }
+// Room for a date and generously written values, also of many more receptors than are asked for: a
+// file that has them is to be read, or told from one that is no concentration file at all.
+std::size_t longestLine(std::size_t receptors) {
+  return std::max(std::size_t{16} << 20, 4096 + 64 * receptors);
+}
+
+// How many values there are, when all of them are numbers.
+std::optional<std::size_t> countNumbers(std::string_view values) {
+  Fields fields = Fields::continuing(values);
+  std::size_t count = 0;
+  for (std::string_view field; fields.next(field); ++count) {
+    if (!parseModelNumber(field)) return std::nullopt;
+  }
+  return count;
+}
 
 // The four fields at the beginning of a line, and behind them the separator and the values.
 struct DateFields {
@@ -59,24 +75,28 @@ std::optional<HourKind> markIn(std::string_view values) {
 
 class Reading {
  public:
-  Reading(InputFile& file, const Blocks& blocks, std::size_t receptors)
+  Reading(InputFile& file, const Blocks& blocks, const Receptors& receptors, bool judgesReceptors)
       : file_(file),
         blocks_(blocks),
         receptors_(receptors),
-        reader_(file, longestLine(receptors)),
-        outside_(receptors) {
-    result_.sums.resize(static_cast<std::size_t>(blocks.count) * receptors);
+        judgesReceptors_(judgesReceptors),
+        reader_(file, longestLine(receptors.list.size())) {
     result_.kinds.resize(static_cast<std::size_t>(blocks.end() - blocks.start));
   }
 
   GroupSums finish(const std::function<bool()>& giveUp) {
     for (std::string_view line; reader_.next(line);) {
       if (!reader_.complete()) fail(" has no line end; the file may be cut short");
-      if (line.starts_with('#') && result_.hours == 0) continue;
+      if (line.starts_with('#') && !sums_) {
+        if (const std::string wrong = names_.take(line); !wrong.empty()) fail(wrong);
+        continue;
+      }
+      if (!sums_) bind();
       addHour(line);
       if (result_.hours % 64 == 0 && giveUp()) return {};
     }
     requireAllHours();
+    result_.sums = sums_->take();
     result_.bytes = file_.size();
     result_.lines = reader_.lineNumber();
     return std::move(result_);
@@ -85,6 +105,22 @@ class Reading {
  private:
   [[noreturn]] void fail(const std::string& what) const {
     throw Fault(file_.named(reader_.lineNumber()) + what + ".");
+  }
+
+  // Whose values the columns are is known once the top of the file was read.
+  void bind() {
+    result_.namesReceptors = !names_.empty();
+    if (names_.empty() && receptors_.isRanked) {
+      throw Fault("The file " + receptors_.file +
+                  " is a ranked list (format 2), in no order that " +
+                  "tells whose the values of the file " + file_.name() +
+                  " are. Name their receptors at the top of that file, in a line \"# receptors: " +
+                  "R01 R02 ...\", or give the receptors in format 1, in the order of the values.");
+    }
+    result_.columns = names_.empty() ? receptors_.list.size() : names_.count();
+    std::vector<std::size_t> columnOf;
+    if (!names_.empty()) columnOf = names_.columnsOf(receptors_, file_.name());
+    sums_.emplace(blocks_, result_.columns, std::move(columnOf));
   }
 
   void addHour(std::string_view line) {
@@ -132,8 +168,23 @@ class Reading {
       ++(*mark == HourKind::kCalm ? result_.calm : result_.missing);
       return *mark;
     }
-    if (!row_.addTo(sumsOf(hour), values)) fail(explainValues(values, receptors_));
+    if (!row_.addTo(sums_->of(hour), values)) failValues(values);
+    ++rows_;
     return isZeroRow(values) ? HourKind::kZero : HourKind::kValid;
+  }
+
+  [[noreturn]] void failValues(std::string_view values) const {
+    const std::optional<std::size_t> count = countNumbers(values);
+    const bool ofReceptors = judgesReceptors_ && names_.empty() && rows_ == 0;
+    if (!ofReceptors || !count || *count == result_.columns) {
+      fail(explainValues(values, result_.columns));
+    }
+    throw Fault(
+        "The file " + receptors_.file + " lists " + counted(receptors_.list.size(), "receptor") +
+        ", but the file " + file_.name() + ", line " + std::to_string(reader_.lineNumber()) +
+        ", holds " + counted(*count, "value") + ": they do not belong together. A line " +
+        "\"# receptors: R01 R02 ...\" at the top of a concentration file names those of its " +
+        "values, and lets a receptor file choose among them.");
   }
 
   void requireNothingBehindMark(std::string_view values) const {
@@ -155,13 +206,6 @@ class Reading {
   std::string nameOf(Hour hour) const { return dateText(hour, result_.hourCount); }
 
   bool isInBlocks(Hour hour) const { return hour >= blocks_.start && hour < blocks_.end(); }
-
-  // Where the values of this hour go; those outside the blocks are checked and forgotten.
-  std::span<double> sumsOf(Hour hour) {
-    if (!isInBlocks(hour)) return outside_;
-    const auto block = static_cast<std::size_t>((hour - blocks_.start) / blocks_.hours);
-    return std::span(result_.sums).subspan(block * receptors_, receptors_);
-  }
 
   void requireAllHours() const {
     const std::string file = "The file " + file_.name() + " ";
@@ -188,19 +232,22 @@ class Reading {
 
   InputFile& file_;
   const Blocks& blocks_;
-  const std::size_t receptors_;
+  const Receptors& receptors_;
+  const bool judgesReceptors_;
   LineReader reader_;
+  ColumnNames names_;
+  std::optional<ColumnSums> sums_;  // nothing as long as the top of the file is read
   ValueRow row_;
-  std::vector<double> outside_;
+  std::uint64_t rows_ = 0;       // lines with values
   std::uint64_t clockLine_ = 0;  // that told how hours are counted
   GroupSums result_;
 };
 
 }  // namespace
 
-GroupSums readConcentrations(InputFile& file, const Blocks& blocks, std::size_t receptors,
-                             const std::function<bool()>& giveUp) {
-  return Reading(file, blocks, receptors).finish(giveUp);
+GroupSums readConcentrations(InputFile& file, const Blocks& blocks, const Receptors& receptors,
+                             bool judgesReceptors, const std::function<bool()>& giveUp) {
+  return Reading(file, blocks, receptors, judgesReceptors).finish(giveUp);
 }
 
 }  // namespace korventally::engine

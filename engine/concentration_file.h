@@ -1,6 +1,7 @@
 // A concentration file: lines that begin with "#" at its top, then one line per hour with year,
-// month, day, hour and one value in g/m**3 for every receptor, in the order of the receptor file;
-// for an hour that has no concentrations, the word "calm" or "missing" in place of the values.
+// month, day, hour and one value in g/m**3 for every receptor; for an hour that has no
+// concentrations, the word "calm" or "missing" in place of the values. The receptors are those that
+// a line "# receptors: ..." at the top names, else those of the receptor file in its order.
 #pragma once
 
 #include <cstddef>
@@ -10,6 +11,7 @@
 
 #include "engine/blocks.h"
 #include "engine/calendar.h"
+#include "engine/receptor_file.h"
 #include "engine/system_files.h"
 
 namespace korventally::engine {
@@ -32,6 +34,8 @@ struct GroupSums {
   std::uint64_t hours = 0;    ///< in the whole file
   std::uint64_t calm = 0;     ///< of those, marked so
   std::uint64_t missing = 0;  ///< of those, marked so
+  std::size_t columns = 0;    ///< values in a line
+  bool namesReceptors = false;
   HourCount hourCount = HourCount::kUnknown;
   Hour first = 0;
   Hour last = 0;
@@ -40,7 +44,9 @@ struct GroupSums {
 /// Reads the whole file, the hours outside the run too, and checks every line of it. Hours must
 /// follow each other without a gap, and all hours of the blocks must be there. Throws Fault with
 /// file and line. `giveUp` is asked now and then; once it says true, the sums are left unfinished.
-GroupSums readConcentrations(InputFile& file, const Blocks& blocks, std::size_t receptors,
-                             const std::function<bool()>& giveUp);
+/// `judgesReceptors`: no other file is known to fit the receptor file, which is to blame when the
+/// numbers of receptors and values differ. `receptors` must outlive the call.
+GroupSums readConcentrations(InputFile& file, const Blocks& blocks, const Receptors& receptors,
+                             bool judgesReceptors, const std::function<bool()>& giveUp);
 
 }  // namespace korventally::engine

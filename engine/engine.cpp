@@ -20,6 +20,7 @@
 #include "engine/group_reader.h"
 #include "engine/judgement.h"
 #include "engine/list_file.h"
+#include "engine/ranked_values.h"
 #include "engine/receptor_file.h"
 #include "engine/report_case.h"
 #include "engine/report_hours.h"
@@ -53,13 +54,14 @@ std::vector<std::unique_ptr<InputFile>> openGroups(const Case& theCase) {
 
 std::vector<GroupSums> readAll(const Case& theCase,
                                const std::vector<std::unique_ptr<InputFile>>& files,
-                               const Blocks& blocks, std::size_t receptors, ListFile& list) {
+                               const Blocks& blocks, const Receptors& receptors, ListFile& list) {
   try {
     return readGroups(files, blocks, receptors, [&](std::size_t i, const GroupSums& sums) {
-      reportGroupFile(theCase.groups[i], sums, receptors, list);
+      reportGroupFile(theCase.groups[i], sums, list);
     });
   } catch (const std::bad_alloc&) {
-    const auto averages = static_cast<std::uint64_t>(blocks.count) * receptors * files.size();
+    const auto averages =
+        static_cast<std::uint64_t>(blocks.count) * receptors.list.size() * files.size();
     throw Fault("There is not enough memory for the " + counted(averages, "average") +
                 " of this case (" + grouped(averages * sizeof(double) / 1000000 + 1) + " MB).");
   }
@@ -80,7 +82,7 @@ void compute(const Case& theCase, ListFile& list) {
   const Receptors receptors = readReceptors(*receptorFile, theCase.receptorFormat);
   const std::size_t count = receptors.list.size();
   reportReceptorFile(theCase, receptors, list);
-  const std::vector<GroupSums> groups = readAll(theCase, files, blocks, count, list);
+  const std::vector<GroupSums> groups = readAll(theCase, files, blocks, receptors, list);
   blocks.hourCount = agreeOnClock(theCase, groups);
   const RunHours hours = agreeOnHours(theCase, blocks, groups);
   const Names names{theCase, blocks, receptors.list};
@@ -94,8 +96,9 @@ void compute(const Case& theCase, ListFile& list) {
   reportExceedances(names, averages, judgement, list);
   reportLeftOut(names, judgement, list);
   const Averages ifCalm(theCase, blocks, groups, count, validHoursOfBlocks(blocks, hours, true));
-  reportWarnings(names, averages, judgement, warningOfZeroHours(names, hours, ifCalm, judgement),
-                 list);
+  std::vector<std::string> ofInput = warningOfZeroHours(names, hours, ifCalm, judgement);
+  std::ranges::move(warningOfRankedValues(names, receptors, averages), std::back_inserter(ofInput));
+  reportWarnings(names, averages, judgement, ofInput, list);
   reportElapsed(begin, list);
 }
 

@@ -15,6 +15,7 @@
 
 #include "engine/blocks.h"
 #include "engine/concentration_file.h"
+#include "engine/receptor_file.h"
 #include "engine/system_files.h"
 
 namespace korventally::engine {
@@ -23,7 +24,7 @@ namespace {
 class Crew {
  public:
   Crew(std::span<const std::unique_ptr<InputFile>> files, const Blocks& blocks,
-       std::size_t receptors)
+       const Receptors& receptors)
       : files_(files),
         blocks_(blocks),
         receptors_(receptors),
@@ -71,7 +72,7 @@ class Crew {
     for (std::size_t index = next_++; index < files_.size(); index = next_++) {
       std::exception_ptr fault;
       try {
-        results_[index] = readConcentrations(*files_[index], blocks_, receptors_,
+        results_[index] = readConcentrations(*files_[index], blocks_, receptors_, index == 0,
                                              [&] { return firstFault_ < index; });
       } catch (...) {
         fault = std::current_exception();
@@ -89,7 +90,7 @@ class Crew {
 
   const std::span<const std::unique_ptr<InputFile>> files_;
   const Blocks& blocks_;
-  const std::size_t receptors_;
+  const Receptors& receptors_;
   std::mutex mutex_;
   std::condition_variable changed_;
   std::vector<Finished> finished_;
@@ -102,7 +103,7 @@ class Crew {
 }  // namespace
 
 std::vector<GroupSums> readGroups(std::span<const std::unique_ptr<InputFile>> files,
-                                  const Blocks& blocks, std::size_t receptors,
+                                  const Blocks& blocks, const Receptors& receptors,
                                   const std::function<void(std::size_t, const GroupSums&)>& done) {
   Crew crew(files, blocks, receptors);
   for (std::size_t i = 0; i < files.size(); ++i) done(i, crew.await(i));

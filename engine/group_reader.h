@@ -9,6 +9,7 @@
 
 #include "engine/blocks.h"
 #include "engine/concentration_file.h"
+#include "engine/receptor_file.h"
 #include "engine/system_files.h"
 
 namespace korventally::engine {
@@ -17,7 +18,7 @@ namespace korventally::engine {
 /// order of the files, once the sums of that file and of all before it are known. Of several
 /// faults the one of the first file is thrown, whichever thread met its fault first.
 std::vector<GroupSums> readGroups(std::span<const std::unique_ptr<InputFile>> files,
-                                  const Blocks& blocks, std::size_t receptors,
+                                  const Blocks& blocks, const Receptors& receptors,
                                   const std::function<void(std::size_t, const GroupSums&)>& done);
 
 }  // namespace korventally::engine

@@ -34,6 +34,8 @@ class Reading {
       addLine(line);
     }
     if (result_.list.empty()) throw Fault("The file " + file_.name() + " holds no receptor.");
+    result_.isRanked = ranked_;
+    result_.file = file_.name();
     result_.bytes = file_.size();
     result_.lines = reader_.lineNumber();
     return std::move(result_);
@@ -54,7 +56,10 @@ class Reading {
     if (ranked_) checkRank(fields[0], fields[1]);
     const std::size_t place = expected - 3;
     add({coordinate("X", fields[place]), coordinate("Y", fields[place + 1]),
-         std::string(fields[place + 2])});
+         std::string(fields[place + 2]), reader_.lineNumber()});
+    if (!ranked_) return;
+    const std::size_t receptor = places_.at(std::string(fields[place + 2]));
+    result_.ranked.push_back({*parseModelNumber(fields[1]), receptor, reader_.lineNumber()});
   }
 
   static std::vector<std::string_view> split(std::string_view line) {
@@ -68,7 +73,7 @@ class Reading {
     if (parseWhole(rank).value_or(0) < 1) {
       fail("gives the rank as " + inQuotes(rank) + "; it must be a whole number from 1 on");
     }
-    if (!parseDecimal(value))
+    if (!parseModelNumber(value))
       fail("gives the value as " + inQuotes(value) + ", which is no number");
   }
 
@@ -81,9 +86,8 @@ class Reading {
   }
 
   void add(const Receptor& receptor) {
-    if (receptor.id.empty() || receptor.id.size() > kLongestId) {
-      fail("gives the ID " + inQuotes(receptor.id) + "; it must have 1 to " +
-           std::to_string(kLongestId) + " characters");
+    if (!isReceptorId(receptor.id)) {
+      fail("gives the ID " + inQuotes(receptor.id) + "; " + kReceptorIdRule);
     }
     const auto [found, is_new] = places_.try_emplace(receptor.id, result_.list.size());
     if (is_new) {
@@ -105,6 +109,10 @@ class Reading {
 };
 
 }  // namespace
+
+bool isReceptorId(std::string_view text) {
+  return !text.empty() && text.size() <= kLongestId && !hasControl(text);
+}
 
 Receptors readReceptors(InputFile& file, int format) { return Reading(file, format).finish(); }
 

@@ -5,8 +5,10 @@
 // place. Lines that begin with "#" at the top are a header.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "engine/system_files.h"
@@ -16,11 +18,27 @@ namespace korventally::engine {
 struct Receptor {
   double x = 0;
   double y = 0;
-  std::string id;  ///< 1 to 12 characters without blanks or commas
+  std::string id;          ///< see isReceptorId()
+  std::uint64_t line = 0;  ///< of its first appearance
+};
+
+/// Whether a text without blanks and commas can name a receptor, and what is asked of it.
+bool isReceptorId(std::string_view text);
+inline constexpr const char* kReceptorIdRule =
+    "it must have 1 to 12 characters and no control character";
+
+/// A line of a ranked list: this receptor has this value, in ug/m**3 as far as the list tells.
+struct RankedValue {
+  double value = 0;
+  std::size_t receptor = 0;  ///< its place in Receptors::list
+  std::uint64_t line = 0;
 };
 
 struct Receptors {
-  std::vector<Receptor> list;  ///< at least one; in the order of the values of an hour
+  std::vector<Receptor> list;       ///< at least one, in the order of their first appearance
+  std::vector<RankedValue> ranked;  ///< every line of a ranked list
+  bool isRanked = false;
+  std::string file;  ///< its name, for messages
   std::uint64_t bytes = 0;
   std::uint64_t lines = 0;
 };

@@ -80,12 +80,12 @@ void reportReceptorFile(const Case& theCase, const Receptors& receptors, ListFil
             counted(receptors.lines, "line") + ", " + counted(receptors.list.size(), "receptor"));
 }
 
-void reportGroupFile(const SourceGroup& group, const GroupSums& sums, std::size_t receptors,
-                     ListFile& list) {
+void reportGroupFile(const SourceGroup& group, const GroupSums& sums, ListFile& list) {
   list.line("  " + left(group.name, 15) + group.file);
   list.line("  " + left("", 15) + counted(sums.bytes, "byte") + ", " + counted(sums.lines, "line") +
             ", " + counted(sums.hours, "hour") + " (" + dateText(sums.first, sums.hourCount) +
-            " to " + dateText(sums.last, sums.hourCount) + "), " + counted(receptors, "receptor"));
+            " to " + dateText(sums.last, sums.hourCount) + "), " +
+            counted(sums.columns, "receptor") + (sums.namesReceptors ? " by name" : ""));
   list.line("  " + left("", 15) + clockText(sums.hourCount) + "; " + markedText(sums));
 }
 

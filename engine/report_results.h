@@ -22,8 +22,7 @@ struct Names {
 };
 
 void reportReceptorFile(const Case& theCase, const Receptors& receptors, ListFile& list);
-void reportGroupFile(const SourceGroup& group, const GroupSums& sums, std::size_t receptors,
-                     ListFile& list);
+void reportGroupFile(const SourceGroup& group, const GroupSums& sums, ListFile& list);
 /// `more` are lines to add to the section.
 void reportAverages(const Case& theCase, const Blocks& blocks, const std::vector<std::string>& more,
                     ListFile& list);

@@ -72,6 +72,7 @@ def write_concentrations(path, title, names):
     with open(path, "w", newline="\r\n", encoding="ascii") as out:
         out.write("# %s, hourly SO2 in g/m**3 at the receptors of receptors.dat\n" % title)
         out.write("# year month day hour, then one value per receptor\n")
+        out.write("# receptors: %s\n" % " ".join(name for _, _, name in places))
         for hour, wind in enumerate(weather()):
             values = (sum(plume(SOURCES[name], x, y, wind) for name in names)
                       for x, y, _ in places)

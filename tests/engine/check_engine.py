@@ -119,18 +119,27 @@ class Study:
             self.standard = "0.5"
 
     def write(self):
-        receptor_format = self.rng.choice(["1", "2"])
+        self.receptor_format = self.rng.choice(["1", "2"])
         ids = ["R%d" % (r + 1) for r in range(self.receptors)]
+        self.order = list(range(self.receptors))
+        self.names_receptors = self.receptor_format == "2" or self.rng.random() < 0.4
+        if self.names_receptors:
+            self.rng.shuffle(self.order)
         place = [(100.5 * r, -20.25 * r * r) for r in range(self.receptors)]
         with open(self.folder / "rec.dat", "w", newline="") as out:
             out.write("# receptors%s" % self.line_end)
-            order = list(range(self.receptors))
-            if receptor_format == "2":
+            order = list(self.order)
+            if self.receptor_format == "2":
                 order += [self.rng.choice(order) for _ in range(5)]
+            self.ranked, self.ranked_is_true = [], self.rng.random() < 0.5
             for rank, r in enumerate(order):
+                totals = sorted((row[r] for row in self.total), reverse=True)
+                again = order[:rank].count(r)
+                true = self.ranked_is_true and again < len(totals)
+                self.ranked.append((r, "%.6f" % (float(totals[again]) if true else 12.5)))
                 fields = ["%.4f" % place[r][0], "%.4f" % place[r][1], ids[r]]
-                if receptor_format == "2":
-                    fields = [str(rank + 1), "12.5"] + fields
+                if self.receptor_format == "2":
+                    fields = [str(rank + 1), self.ranked[rank][1]] + fields
                 out.write(self.separator.join(fields) + self.line_end)
         for g in range(self.groups):
             self.write_group(self.folder / ("g%d.con" % g), self.texts[g])
@@ -139,17 +148,33 @@ class Study:
         for g in range(self.groups):
             lines += [str(self.folder / ("g%d.con" % g)), self.names[g]]
         lines += ["1000000.0,0.0", self.background, str(self.averaging), self.standard,
-                  receptor_format, str(self.folder / "rec.dat"), "1", self.sil, "2",
+                  self.receptor_format, str(self.folder / "rec.dat"), "1", self.sil, "2",
                   "T" if self.rank1 else "F", "0"]
         with open(self.folder / "korventally.inp", "w", newline="") as out:
             out.write("".join(LINE + line + "\r\n" for line in lines))
 
+    def top(self, out):
+        """The remarks of a concentration file; returns its columns: receptors, or None for others'."""
+        columns = list(range(self.receptors))
+        out.write("# hourly values%s#%s" % (self.line_end, self.line_end))
+        if self.names_receptors:
+            columns += [None] * self.rng.choice([0, 0, 3])
+            self.rng.shuffle(columns)
+            names = ["OTHER%d" % i if r is None else "R%d" % (r + 1) for i, r in enumerate(columns)]
+            cut = self.rng.randint(1, len(names))
+            for part in filter(None, (names[:cut], names[cut:])):
+                out.write("# receptors:%s%s" % (self.separator.join([""] + part).replace(",", " "),
+                                                self.line_end))
+        return columns
+
     def write_group(self, path, rows):
         moment = self.start - datetime.timedelta(hours=self.before)
         with open(path, "w", newline="") as out:
-            out.write("# hourly values%s#%s" % (self.line_end, self.line_end))
+            columns = self.top(out)
             for row, mark in zip(rows, self.marks):
-                row = [mark] if mark else row
+                zero = not any(Fraction(text) for text in row)
+                row = [mark] if mark else [("0" if zero else number(self.rng).strip()) if r is None
+                                           else row[r] for r in columns]
                 day, hour = self.named(moment)
                 fields = [str(day.year), "%02d" % day.month, str(day.day), "%d" % hour] + row
                 out.write(self.separator.join(fields) + self.line_end)
@@ -227,7 +252,7 @@ def judged_places(study, lines):
         return places
     rows = section(lines, "RANK 1 AVERAGES")[1:]
     need(len(rows) == study.receptors, "rows left out")
-    for r, row in enumerate(rows):
+    for r, row in zip(study.order, rows):
         m = re.match(r"  R(\d+) .*  (\d{4}-\d\d-\d\d \d\d) +(\S+)$", row)
         need(m and int(m[1]) == r + 1, "form of " + row)
         block = [study.date(b) for b in range(study.blocks)].index(m[2])
@@ -278,6 +303,23 @@ def check_rows(study, rows, exceeding, significant):
             same(cells[2 * g - 2], own, "row %s, group %d" % (no, g), 3)
             if cells[2 * g - 1] != ">999":
                 same(cells[2 * g - 1], 100 * own / exact, "per cent of row " + no, 1)
+
+
+def check_ranked(study, lines):
+    """The list's values of each receptor, the largest first, are its highest averages."""
+    back = Fraction(study.background)
+    wrong = []
+    for extra in (0, back):
+        wrong.append(0)
+        for r in range(study.receptors):
+            listed = sorted((Fraction(v) for at, v in study.ranked if at == r), reverse=True)
+            own = sorted((row[r] + extra for row in study.own[0]), reverse=True)
+            wrong[-1] += len(listed) > len(own) or any(
+                abs(a - b) > max(a, b) / 1000 + Fraction(1, 1000) for a, b in zip(listed, own))
+    text = " ".join(section(lines, "WARNINGS"))
+    m = re.search(r"ranked list of receptors has other values .* at (\d+) of (\d+) receptor", text)
+    need(bool(m) == (min(wrong) > 0), "ranked list")
+    need(not m or (int(m[1]), int(m[2])) == (min(wrong), study.receptors), "receptors of the ranked list")
 
 
 def check_misfit(study, lines):
@@ -342,6 +384,8 @@ def check(study, engine):
     check_maxima(study, lines)
     check_judgement(study, lines)
     check_misfit(study, lines)
+    if study.receptor_format == "2":
+        check_ranked(study, lines)
 
 
 def main():

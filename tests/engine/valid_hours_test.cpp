@@ -62,6 +62,9 @@ TEST(ValidHours, GiveTheAveragesThatTheModelGives) {
     const Study study;
     const std::vector<ModelRow> rows = readModelRows(model.hourly);
     study.write("model.con", concentrationText(rows, readMarks(model.marks)));
+    study.write("nine.dat", receptorText(rows));
+    InputFile receptorFile(study.path("nine.dat"));
+    const Receptors receptors = readReceptors(receptorFile, 1);
     Case theCase;
     theCase.groups.resize(1);
     theCase.scale = 1e6;
@@ -71,7 +74,7 @@ TEST(ValidHours, GiveTheAveragesThatTheModelGives) {
     const Blocks blocks = planBlocks(theCase);
     std::vector<std::unique_ptr<InputFile>> files;
     files.push_back(std::make_unique<InputFile>(study.path("model.con")));
-    const auto groups = readGroups(files, blocks, 9, [](std::size_t, const GroupSums&) {});
+    const auto groups = readGroups(files, blocks, receptors, [](std::size_t, const GroupSums&) {});
     const RunHours hours = agreeOnHours(theCase, blocks, groups);
     const Averages averages(theCase, blocks, groups, 9, validHoursOfBlocks(blocks, hours));
     ASSERT_EQ(averages.blocks(), model.blocks);
