@@ -8,7 +8,8 @@ namespace korventally {
 /// period, area class and standard:
 /// - `StandardLimit`, the NAAQS concentration standard or the PSD increment;
 /// - `SilLimit`, the significant impact level.
-/// Whatever the two fields held before is overwritten.
+/// Whatever the two fields held before is overwritten, but `StandardLimit` stays when the case's
+/// standard is neither "NAAQS" nor "PSD".
 void DeriveLimits(AnalysisCase& theCase);
 
 }  // namespace korventally

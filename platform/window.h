@@ -58,8 +58,9 @@ class Window : public Container {
   /// The session ends, whatever the objection: leave nothing behind, at once.
   virtual void sessionEnds() {}
 
-  /// Called by the window's own controls.
+  /// Called by the window's own controls, for the view to show what has changed.
   void controlChanged(const Control& control, Aspect aspect);
+  /// Has screen readers say the control's text, once, wherever the focus is.
   void announce(const Control& control);
 
  protected:
