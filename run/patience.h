@@ -6,9 +6,9 @@
 namespace korventally {
 
 /// Decides when a run that shows no verdict is worth a question to the user: when its list file has
-/// not been there, or could not be read, for 30 s, or when all of its processes are gone. After "keep waiting" the next question
-/// comes 30 s later at the earliest. Times are tick counts; the subtractions are unsigned, so they
-/// hold when the counter wraps.
+/// not been there, or could not be read, for 30 s, or when all of its processes are gone. After
+/// "keep waiting" the next question comes 30 s later at the earliest. Times are tick counts; the
+/// subtractions are unsigned, so they hold when the counter wraps.
 class Patience {
  public:
   static constexpr std::uint32_t kLimit = 30000;  ///< milliseconds

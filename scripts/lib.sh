@@ -66,7 +66,8 @@ cross_build() { build_preset windows "$@"; }
 build_program() {
   stage "Cross-building the wizard and the engine for Windows" build-windows \
     cross_build KorvenTallyWizard korventally
-  stage "Putting them into dist/KorvenTally/" install cmake --install "$build/windows" --strip
+  stage "Putting them into dist/KorvenTally/" install \
+    cmake --install "$build/windows" --prefix "$installation" --strip
 }
 
 # A folder as a program under Wine names it.
