@@ -18,6 +18,7 @@
 #include "engine/fault.h"
 #include "engine/fields.h"
 #include "engine/line_reader.h"
+#include "engine/model_file.h"
 #include "engine/receptor_file.h"
 #include "engine/system_files.h"
 #include "engine/text.h"
@@ -85,6 +86,8 @@ class Reading {
   }
 
   GroupSums finish(const std::function<bool()>& giveUp) {
+    const std::string objection = objectionToModelFile(file_.name(), reader_.peek());
+    if (!objection.empty()) throw Fault(objection);
     for (std::string_view line; reader_.next(line);) {
       if (!reader_.complete()) fail(" has no line end; the file may be cut short");
       if (line.starts_with('#') && !sums_) {

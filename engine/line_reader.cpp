@@ -32,6 +32,11 @@ bool LineReader::next(std::string_view& line) {
   return true;
 }
 
+std::string_view LineReader::peek() {
+  if (begin_ == end_) readMore();
+  return {buffer_.data() + begin_, end_ - begin_};
+}
+
 // False at the end of the file.
 bool LineReader::readMore() {
   makeRoom();

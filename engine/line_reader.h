@@ -25,6 +25,10 @@ class LineReader {
   /// line without a line end is delivered too, and complete() is then false.
   bool next(std::string_view& line);
 
+  /// What has been read and not delivered; at the beginning of a file its first bytes, up to
+  /// kBlock of them. Empty at the end. Valid until the next call.
+  std::string_view peek();
+
   /// The number of lines delivered so far, which is the number of the line just delivered.
   std::uint64_t lineNumber() const { return lineNumber_; }
 

@@ -12,6 +12,7 @@
 #include "engine/fault.h"
 #include "engine/fields.h"
 #include "engine/line_reader.h"
+#include "engine/model_file.h"
 #include "engine/system_files.h"
 #include "engine/text.h"
 
@@ -28,6 +29,8 @@ class Reading {
       : file_(file), reader_(file, kLongestLine), ranked_(format == 2) {}
 
   Receptors finish() {
+    const std::string objection = objectionToModelFile(file_.name(), reader_.peek());
+    if (!objection.empty()) throw Fault(objection);
     for (std::string_view line; reader_.next(line);) {
       if (!reader_.complete()) fail("has no line end; the file may be cut short");
       if (line.starts_with('#') && result_.list.empty()) continue;

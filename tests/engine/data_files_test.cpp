@@ -7,6 +7,7 @@
 
 #include "engine/line_reader.h"
 #include "engine/receptor_file.h"
+#include "tests/engine/model_files.h"
 #include "tests/engine/study.h"
 
 namespace korventally::engine {
@@ -136,6 +137,34 @@ TEST(LineReader, FindsLineEndsWhereverTheBlocksEnd) {
       EXPECT_FALSE(reader.complete());
       EXPECT_FALSE(reader.next(line));
       EXPECT_EQ(reader.lineNumber(), sizes.size() + 1);
+    }
+  }
+}
+
+// With and without its header, and unformatted; and files that only look a little like it.
+TEST(ModelFile, IsNamedForWhatItIsWithTheWayIn) {
+  const std::string formatted = readTestData("plot/all.pst");
+  const std::string rows = formatted.substr(formatted.find("\n  ") + 1);
+  const std::string binary = readTestData("unform/all.bin");
+  const std::string way =
+      ". Make concentration files and a receptor file of it with \"korventally import\".";
+  for (const char* name : {"group_2.con", "receptors.dat"}) {
+    for (const std::string& bytes : {formatted, rows, binary, binary.substr(0, 40)}) {
+      Study study;
+      study.write(name, bytes);
+      const bool text = bytes == formatted || bytes == rows;
+      EXPECT_EQ(study.run().sentence, "The file " + study.text(name) +
+                                          " is a dispersion model's own output, " +
+                                          (text ? "formatted" : "unformatted") + way);
+    }
+    std::string other = binary;
+    other[4 + 88] = 'x';  // not the record's length again
+    for (const std::string& bytes : {other, std::string("* a remark\n"), rows.substr(0, 85) + "\n",
+                                     std::string("1 2 3 4 5 1-HR\n")}) {
+      Study study;
+      study.write(name, bytes);
+      const std::string sentence = study.run().sentence;
+      EXPECT_EQ(sentence.find("The file " + study.text(name) + ", line "), 0u) << sentence;
     }
   }
 }

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <fstream>
+#include <iterator>
 #include <sstream>
 #include <stdexcept>
 
@@ -9,7 +10,7 @@ namespace korventally::engine {
 namespace {
 
 std::ifstream open(const std::string& name) {
-  std::ifstream file(std::string(KORVENTALLY_TEST_DATA) + "/" + name);
+  std::ifstream file(std::string(KORVENTALLY_TEST_DATA) + "/" + name, std::ios::binary);
   if (!file) throw std::runtime_error("no test data " + name);
   return file;
 }
@@ -27,6 +28,11 @@ std::string nameOf(Hour hour) {
 }
 
 }  // namespace
+
+std::string readTestData(const std::string& name) {
+  std::ifstream file = open(name);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
 
 std::vector<ModelRow> readModelRows(const std::string& name) {
   std::ifstream file = open(name);

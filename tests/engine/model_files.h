@@ -15,6 +15,9 @@ struct ModelRow {
   Hour hour = 0;  ///< not set for an average over the whole run
 };
 
+/// The bytes of a file below tests/engine/data.
+std::string readTestData(const std::string& name);
+
 /// The rows of a file below tests/engine/data.
 std::vector<ModelRow> readModelRows(const std::string& name);
 

@@ -1,0 +1,14 @@
+// Recognises a dispersion model's own output where a file made from it is expected.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace korventally::engine {
+
+/// Sentences on a file that begins with these bytes and is a model's own, formatted (with or
+/// without its header) or not; they name the way in. Empty for all other files. `name` is the
+/// file's.
+std::string objectionToModelFile(const std::string& name, std::string_view beginning);
+
+}  // namespace korventally::engine
