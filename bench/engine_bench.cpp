@@ -1,6 +1,7 @@
-// How fast the engine reads: whole runs, one file on one core, and the cost of a value from one
-// day to five years. Studies are written once, below the system's folder for temporary files or,
-// if it is set, KORVENTALLY_BENCH_DIR (a year takes 530 MB).
+// How fast the engine reads: whole runs, one file in one thread, and the cost of a value in files
+// of one day to five years. The concentration files are written once and stay, below
+// KORVENTALLY_BENCH_DIR or, if that is not set, the folder for temporary files; the five of whole
+// runs take 530 MB.
 #include <benchmark/benchmark.h>
 
 #include <charconv>
@@ -38,7 +39,8 @@ engine::Blocks daysOf(const StudySize& size) {
 }
 
 // A year of 1,000 receptors and 5 groups, from the control file to the verdict. The argument is
-// the averaging period. Bytes per second are those of the clock, with as many threads as cores.
+// the averaging period in hours. Bytes per second count the time that passes, not the time of each
+// thread: the engine reads its files in as many threads as there are processors.
 void wholeRun(benchmark::State& state) {
   StudySize size;
   size.averagingHours = static_cast<std::size_t>(state.range(0));
@@ -61,7 +63,7 @@ void readFile(const std::filesystem::path& path, const StudySize& size) {
   benchmark::DoNotOptimize(sums.sums.data());
 }
 
-// One file of that year on one core.
+// One file of that year, in one thread.
 void oneFile(benchmark::State& state) {
   const StudySize size;
   const Made study = make(size);
@@ -70,7 +72,7 @@ void oneFile(benchmark::State& state) {
 }
 BENCHMARK(oneFile)->Unit(benchmark::kMillisecond);
 
-// The same file cut into lines only: what the system's reading costs.
+// The same file cut into lines only: what is spent before a value is looked at.
 void oneFileLinesOnly(benchmark::State& state) {
   const StudySize size;
   const Made study = make(size);
@@ -83,7 +85,8 @@ void oneFileLinesOnly(benchmark::State& state) {
 }
 BENCHMARK(oneFileLinesOnly)->Unit(benchmark::kMillisecond);
 
-// The same file with nothing but std::from_chars: what reading eight bytes at a time saves.
+// The same file with nothing but std::from_chars: what the engine's own ways of reading a value
+// save.
 void oneFileFromChars(benchmark::State& state) {
   const StudySize size;
   const Made study = make(size);
@@ -106,7 +109,7 @@ void oneFileFromChars(benchmark::State& state) {
 }
 BENCHMARK(oneFileFromChars)->Unit(benchmark::kMillisecond);
 
-// From one day to five years of hours: the cost of one value must stay flat.
+// From one day to five years of hours: per_value, the time for one value, is to stay the same.
 void costOfAValue(benchmark::State& state) {
   StudySize size;
   size.hours = static_cast<std::size_t>(state.range(0));

@@ -16,7 +16,8 @@ struct StudySize {
 
 /// Writes all.con, group_2.con ... , receptors.dat and korventally.inp (list file out.lst) into the
 /// folder, from 2009-01-01 hour 00 on, and returns the bytes of the concentration files. The same
-/// size gives the same bytes. A study that is already there is not written again.
+/// size gives the same concentrations, and those that are already there are not written again: one
+/// folder serves one size of hours, receptors and groups.
 std::uintmax_t makeStudy(const std::filesystem::path& folder, const StudySize& size);
 
 /// The name of the concentration file of this group, counted from 0.

@@ -47,7 +47,7 @@ void moveOnAtEnter(Window& window, std::int16_t& keyCode);
 
 /// Waits at least `duration` milliseconds, busily, while events are handled: any other handler may
 /// run before it returns. A duration of zero or less returns at once. Ends early when `stop` is
-/// requested.
+/// requested, and when time is up (`timeIsUp`).
 void WaitMilliseconds(std::int16_t duration, const std::stop_token& stop = {});
 
 /// Shows "Running.", "Running..", "Running..." in turn, 500 ms each; ends early when `stop` is
@@ -55,9 +55,10 @@ void WaitMilliseconds(std::int16_t duration, const std::stop_token& stop = {});
 void AnimateRunning(Label& label, const std::stop_token& stop = {});
 
 /// Opens a file of the directory in notepad, through the batch file "open_file.bat" in that
-/// directory. The batch file is deleted 5000 ms after it was started, whatever the user does
-/// meanwhile. Returns why the batch file could not be written or started, or not be deleted after
-/// `stop` was requested, because nobody wants the file opened any more.
+/// directory. The batch file is deleted 5000 ms after it was started, or before that when the next
+/// file is to be opened or the session ends. Returns why the batch file could not be written or
+/// started, or not be deleted after `stop` was requested, because nobody wants the file opened any
+/// more.
 Status OpenFileInNotepad(const std::string& directory, const std::string& fileName,
                          const std::stop_token& stop = {});
 

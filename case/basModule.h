@@ -19,8 +19,10 @@ inline constexpr const char* kClassII = "Class II";
 inline constexpr const char* kNaaqs = "NAAQS";
 inline constexpr const char* kPsd = "PSD";
 
-/// The regulatory case being prepared. Every step of the wizard fills its part, the run reads it.
-/// Values are text as the user typed it, up to the control file. Concentrations are in ug/m**3.
+/// The regulatory case being prepared. Every step of the wizard fills its part, the summary may
+/// change some of it, the run reads it. Values are text as the user typed it, up to the control
+/// file; of their form is said what can be typed, but anything can be pasted. Concentrations are in
+/// ug/m**3.
 struct AnalysisCase {
   std::string WorkDir;            ///< working directory, ends with "\"
   std::string AreaClass;          ///< "Class I" or "Class II"
@@ -28,9 +30,9 @@ struct AnalysisCase {
   std::string Species;            ///< "SO2", "PM10" or "NOX"
   std::string AveragingHours;     ///< "3", "24", or for annual "8760" or "8784" (leap start year)
   std::string AmbientBackground;  ///< constant background in ug/m**3; "0" when none was given
-  std::int32_t GroupCount = 0;    ///< source groups in use, 2 to 50
+  std::int32_t GroupCount = 0;    ///< source groups in use, 2 to 50; 0 before step 2
   std::array<std::string, kGroupSlots> GroupConcFiles;  ///< path of each group's concentrations
-  std::array<std::string, kGroupSlots> GroupNames;      ///< name of each group, 13 characters
+  std::array<std::string, kGroupSlots> GroupNames;      ///< name of each group, up to 13 characters
   std::string ReceptorFormat;  ///< "1" generic X,Y,ID file, "2" TOLVREN output ranked file
   std::string ReceptorFile;    ///< path of the receptor file
   std::string StartYear;       ///< four digits

@@ -20,7 +20,7 @@ Status removeOwnFile(const std::string& path, const std::stop_token& stop = {});
 /// Windows' reason with its number.
 std::string reasonOf(const Error& error);
 
-/// Says in a message box, as long as there is time for one, what failed, on which file, the
+/// Says in a message box, as long as there is time for one, what failed, on which file,
 /// Windows' reason and what to do about it.
 void showFailure(Window* owner, const std::string& what, const Error& error,
                  const std::string& advice);

@@ -4,7 +4,8 @@
 
 namespace korventally {
 
-/// The names of the files that a run writes into the working directory, beside the list file.
+/// The names of the files that the program writes into the working directory. The list file, whose
+/// name the user chooses, is the engine's.
 inline constexpr const char* kControlFile = "korventally.inp";
 inline constexpr const char* kBatchFile = "run_korventally.bat";
 inline constexpr const char* kEditorBatchFile = "open_file.bat";

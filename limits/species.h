@@ -26,7 +26,7 @@ inline constexpr AveragingPeriod kDay{"24 Hour", "24"};
 inline constexpr AveragingPeriod kAnnual{"Annual", "8760"};
 
 /// What the regulation says of one species. Everything that depends on a species is said here and
-/// nowhere else: its option, what the case holds, its averaging periods and its limits.
+/// nowhere else: its name, its averaging periods and its limits. An option in the wizard names it.
 struct Species {
   const char* name;  ///< in the case, and the caption of its option
   std::optional<Limits> threeHours;

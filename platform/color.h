@@ -4,8 +4,9 @@
 
 namespace korventally {
 
-/// An OLE colour: 0x00BBGGRR, or 0x800000nn for the system colour nn. Compared as stored, never
-/// resolved, because the colour of a text field is also its state.
+/// An OLE colour: 0x00BBGGRR, or 0x800000nn for Windows' colour number nn. The model compares
+/// colours as stored, because the colour of a text field is also its state; only views resolve
+/// them.
 using OleColor = std::uint32_t;
 
 namespace colors {

@@ -67,7 +67,8 @@ class Control {
   std::string accessibleName() const;
   void setAccessibleName(std::string name) { accessibleName_ = std::move(name); }
   /// The label or frame whose caption names this control, and the label that shows its unit. Both
-  /// stand in the same window; the name follows their captions.
+  /// stand in the same window; the name follows their captions. A view reads it, as the tool tip,
+  /// when its window opens.
   void setLabel(const Control& label, const Control* unit = nullptr);
 
   std::function<void()> onClick;
@@ -78,8 +79,8 @@ class Control {
   Control(Kind kind, Container* container, Rect place, Font font);
 
   void changed(Aspect aspect);
-  /// Runs a handler of the user's event, then moves the focus on if the handler closed the
-  /// control that had it.
+  /// Runs a handler of the user's event, then moves the focus on if the control that had it can no
+  /// longer be used.
   void raise(const std::function<void()>& handler);
 
   std::string text_;

@@ -8,9 +8,9 @@ namespace korventally {
 /// Milliseconds since Windows started; wraps round after 2^32.
 std::uint32_t tickCount();
 
-/// Handles everything that the user and Windows have in store for the windows, and what is due of
-/// `runLater`, then hands the rest of the time slice to other processes. Handlers of any window may
-/// run inside.
+/// Handles what the user and Windows have in store for the windows, and what is due of `runLater`,
+/// then hands the rest of the time slice to other processes. Handlers of any window may run inside.
+/// Returns after a few hundred events at most; the rest waits for the next call.
 void processPendingEvents();
 
 /// Handles events, sleeping in between, for as long as `goOn` says so. A request to quit closes
@@ -22,8 +22,8 @@ void runEventsWhile(const std::function<bool()>& goOn);
 /// request.
 void callRunDueIn(std::uint32_t delay);
 
-/// While one exists, this thread runs below normal priority, so that a busy wait does not cost the
-/// process that is waited for.
+/// While one exists, of one at most, this thread runs below normal priority, so that a busy wait
+/// does not cost the process that is waited for.
 class BelowNormalPriority {
  public:
   BelowNormalPriority();

@@ -6,8 +6,9 @@ namespace korventally {
 
 class Window;
 
-/// Runs a handler that Windows has called. No exception may reach Windows' own code above;
-/// the usual one, missing memory, is told to the user instead. `owner` may be none.
+/// Runs a handler, none for nothing to do, that code of Windows may be waiting for above. No
+/// exception may reach that code: the user is told of it in a message box over `owner`, which may
+/// be none.
 void runGuarded(Window* owner, const std::function<void()>& handler);
 
 }  // namespace korventally

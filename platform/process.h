@@ -12,8 +12,8 @@ std::string installationDirectory();
 
 enum class WindowStyle { kHidden, kNormalFocus };
 
-/// The command interpreter that reads a batch file, with every process that it starts. Dropping it
-/// leaves them running.
+/// The command interpreter that reads a batch file, with every process that it starts; without
+/// these where Windows does not let them be counted. Dropping it leaves all of them running.
 class BatchRun {
  public:
   virtual ~BatchRun() = default;

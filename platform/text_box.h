@@ -23,15 +23,16 @@ class TextBox : public Control {
   int limit() const { return limit_; }
   bool isEmpty() const { return text().empty(); }
 
-  /// A text that shows what to type, until the user comes to the box: the box holds it now.
+  /// A text that shows what to type: the box holds it from now on, until `dropPlaceholder`.
   void setPlaceholder(std::string text);
   /// Empties the box if it still shows its placeholder.
   void dropPlaceholder();
   /// Whether it holds a text other than its placeholder.
   bool isFilledIn() const { return !isEmpty() && text() != placeholder_; }
 
-  /// Sees every character before it reaches the box, with Enter as 13 and Backspace as 8; setting
-  /// the code to 0 discards the keystroke.
+  /// Sees every character that is typed before it reaches the box, with Enter as 13 and Backspace
+  /// as 8; setting the code to 0 discards the keystroke. What is pasted or dropped does not come
+  /// by here.
   std::function<void(std::int16_t& keyCode)> onKeyPress;
 
   /// Whether a file or a folder can be named in the box: a path pasted in quotes loses them, and a

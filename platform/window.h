@@ -40,7 +40,8 @@ class Window : public Container {
 
   /// The control that has the keyboard while this window is active; none before the first showing.
   Control* focused() const { return focused_; }
-  /// Moves the focus from code. Does nothing when the control is not usable.
+  /// Moves the focus from code, with the events of such a move. Does nothing when the control is
+  /// not usable.
   void setFocus(Control& control);
   /// Moves the focus on as the Tab key does.
   void moveFocus(bool forward = true);
@@ -58,9 +59,10 @@ class Window : public Container {
   /// The session ends, whatever the objection: leave nothing behind, at once.
   virtual void sessionEnds() {}
 
-  /// Called by the window's own controls, for the view to show what has changed.
+  /// Called by the window's own controls: the view shows what has changed.
   void controlChanged(const Control& control, Aspect aspect);
-  /// Has screen readers say the control's text, once, wherever the focus is.
+  /// Has assistive programs read out the control's text, once, wherever the focus is. Does nothing
+  /// while the window is not open.
   void announce(const Control& control);
 
  protected:
@@ -75,8 +77,8 @@ class Window : public Container {
   static bool isTabStop(const Control& control);
 
   void setMenus(std::vector<Menu> menus) { menus_ = std::move(menus); }
-  /// The order in which Tab visits the controls, round its end. The selected option button stands
-  /// for its whole group.
+  /// The order in which Tab visits the controls, round its end. Of a group of option buttons it
+  /// visits one: see `OptionButton::standsForGroup`.
   void setTabOrder(std::vector<Control*> order) { tabOrder_ = std::move(order); }
 
  private:

@@ -8,18 +8,18 @@ namespace korventally {
 
 class Window;
 
-/// An open window as a back end shows it. Reads the model and reports the user's doings to it:
-/// `press`, `edited`, `acceptsKey`, `Window::focusMovedTo`, `Window::requestClose`.
+/// An open window as a back end shows it. Reads the model and reports the user's doings to it, by
+/// `press`, `edited`, `acceptsKey`, `Window::focusMovedTo`, `Window::requestClose` and the like.
 class WindowView {
  public:
   virtual ~WindowView() = default;
 
   /// Shows one changed aspect of a control.
   virtual void refresh(const Control& control, Aspect aspect) = 0;
-  /// Gives the control the keyboard and reports it. False when it cannot, because another window is
-  /// active.
+  /// Gives the control the keyboard and reports it. False when there is nothing to report, because
+  /// another window is active or the keyboard is there already.
   virtual bool setFocus(const Control& control) = 0;
-  /// Says a text to assistive programs, once.
+  /// Has assistive programs read out the control's text, once.
   virtual void announce(const Control& control) = 0;
   /// Takes the window off the screen and makes its owner usable again. The view itself lives on
   /// until the code that showed the window is done with it.

@@ -18,9 +18,10 @@
 
 namespace korventally {
 
-/// One run of the engine on the analysis case: its own files, its processes and the wait for its
-/// verdict. Every failure is shown once, over the window of the run; afterwards the run's own files
-/// are gone. All waits handle events, so any of them may see `abandon`.
+/// One run of the engine on the analysis case: its own files (control file and batch file), its
+/// processes and the wait for its verdict. Every failure is shown once, over the window of the run.
+/// Whatever happens, `finish` is the last call: it deletes the run's own files, unless debug mode
+/// keeps them. All waits handle events, so any of them may see `abandon`.
 class EngineRun {
  public:
   EngineRun(Window& window, Label& lblRunning);
@@ -29,20 +30,21 @@ class EngineRun {
   EngineRun(const EngineRun&) = delete;
   EngineRun& operator=(const EngineRun&) = delete;
 
-  /// Removes what an earlier run left and writes the control file and the batch file. False when
-  /// that was not possible; then the engine must not start.
+  /// Checks that the engine is there and can be given every name, deletes an old batch file and
+  /// list file, and writes the control file and the batch file. False when that was not possible,
+  /// or when the run was abandoned; then the engine must not start.
   bool prepare();
   /// Starts the batch file. False when the command interpreter could not be started.
   bool start();
   /// Waits, with the running animation, for the verdict in the list file. None when the user ended
   /// the run, or it was abandoned.
   std::optional<Verdict> waitForVerdict();
-  /// Whether the engine has started and the run has not ended yet.
+  /// Whether the engine has been started and the run is not finished yet.
   bool awaitsVerdict() const { return phase_ == Phase::kAwaitingVerdict; }
-  /// Ends the run: deletes the control file and the batch file, unless debug mode keeps them.
+  /// Ends the run: deletes its own files and shows which of them could not be deleted.
   void finish();
-  /// Ends the engine with every process that it started and deletes the run's own files, at once
-  /// and without a word.
+  /// Ends the processes of the run and deletes its own files, at once and without a word; what
+  /// cannot be deleted at once is left to `finish`.
   void abandon();
 
  private:
@@ -68,8 +70,7 @@ class EngineRun {
   bool processesGone() const { return !processes_->running(); }
   bool abandoned() const { return stop_.stop_requested(); }
 
-  /// Paths as the run found them: the case may change before the run has unwound.
-  const AnalysisCase& case_;
+  const AnalysisCase& case_;  ///< may change before the run has unwound, unlike the paths below
   const std::string listFile_;
   const std::string controlFile_;
   const std::string batchFile_;

@@ -7,8 +7,8 @@
 
 namespace korventally {
 
-/// The caption of the page of a source group. It is the only record of which page is shown while
-/// the step is closed, so it can be read back.
+/// The caption of the page of a source group. It says which page was shown last, and out of how
+/// many groups, so it is read back when the step is opened again.
 struct GroupCaption {
   std::string kind;        ///< "ALL SOURCES", "FACILITY", "OTHER" or another text
   std::int32_t slot = 0;   ///< 0 when the kind is not recognised

@@ -59,7 +59,7 @@ class WizardStep {
   virtual void closed(Way) {}
 
   /// Copies what the step has collected into the case, of which all earlier steps have filled their
-  /// parts. False when no case can be run with it; the user has been told why.
+  /// parts. False when no case can be run with it: the user has been told why, or has said no.
   virtual bool capture(AnalysisCase& into) = 0;
 
  protected:

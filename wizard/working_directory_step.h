@@ -41,7 +41,7 @@ class WorkingDirectoryStep : public WizardStep {
   void setPath(const std::string& path) { txtWorkDir.setText(path); }
 
   void cmdBrowseWorkDir_Click();
-  /// Makes the path end with a backslash.
+  /// Makes the path end with a backslash; blanks around it and the mark of a wrong one go.
   void txtWorkDir_LostFocus();
   void cmdNext1_Click();
 };

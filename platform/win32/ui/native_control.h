@@ -30,7 +30,8 @@ struct Site {
 };
 
 /// A control of the model as a child window of one of Windows' classes. Shows the model and
-/// reports what the user does; keeps no state of its own. The window is destroyed by its parent.
+/// reports what the user does; what the user sees of it is the model's state. The window is
+/// destroyed with its parent.
 class NativeControl {
  public:
   virtual ~NativeControl() = default;

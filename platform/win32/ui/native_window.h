@@ -17,13 +17,14 @@
 
 namespace korventally::win32 {
 
-/// An open window on the screen, with all its controls.
+/// A window on the screen, with all its controls. Lives on, hidden, from the window's closing until
+/// `Window::show` returns.
 class NativeWindow : public WindowView {
  public:
   NativeWindow(Window& window, HWND owner);
   ~NativeWindow() override;
 
-  /// The view of an open window, or none.
+  /// The view of a window, or none if it is not being shown.
   static NativeWindow* of(const Window& window);
   /// The view that a window of Windows, or a child of it, belongs to; none for a foreign one.
   static NativeWindow* of(HWND any);
@@ -56,7 +57,8 @@ class NativeWindow : public WindowView {
   /// Puts the keyboard where the model has it.
   void restoreFocus();
   /// Gives the window the size of its contents, or of the work area if that is smaller, and lays
-  /// the controls out. Centred, or else from the top-left corner as it is.
+  /// the controls out. Centred, or else from the top-left corner as it is; moved as far as it takes
+  /// to lie within the work area.
   void fit(bool centre);
   void placeControls();
 

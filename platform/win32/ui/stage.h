@@ -20,6 +20,7 @@ class Stage {
   /// Forgets the fonts of the old resolution: give every control its font anew.
   void setDpi(int dpi);
 
+  /// Twips in pixels of this window, rounded.
   int fromTwips(int twips) const;
   /// Pixels at 96 dpi, in those of this window.
   int scaled(int pixels) const { return MulDiv(pixels, dpi_, USER_DEFAULT_SCREEN_DPI); }

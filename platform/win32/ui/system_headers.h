@@ -1,6 +1,6 @@
 #pragma once
 
-// The system's headers in the one order in which they can be read.
+// Windows' headers in the one order in which they can be read.
 // clang-format off
 #include <windows.h>
 #include <commctrl.h>
