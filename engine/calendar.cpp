@@ -50,14 +50,15 @@ std::int64_t hourOfDay(Hour hour, HourCount count) {
   return from0 - firstHourOf(dateOf(from0));
 }
 
-std::int64_t hoursOfYearFrom(Hour start) {
+Hour yearsAfter(Hour start, int years) {
   const year_month_day date = dateOf(start);
-  year_month_day next = date + std::chrono::years(1);
-  // 29 February has no namesake next year: the year then ends where 1 March begins.
-  if (!next.ok()) {
-    next = year_month_day(next.year(), std::chrono::March, std::chrono::day(1));
+  year_month_day later = date + std::chrono::years(years);
+  if (!later.ok()) {
+    later = year_month_day(later.year(), std::chrono::March, std::chrono::day(1));
   }
-  return firstHourOf(next) - firstHourOf(date);
+  return firstHourOf(later) + start - firstHourOf(date);
 }
+
+std::int64_t hoursOfYearFrom(Hour start) { return yearsAfter(start, 1) - start; }
 
 }  // namespace korventally::engine

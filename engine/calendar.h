@@ -27,6 +27,9 @@ std::string dateText(Hour hour, HourCount count = HourCount::kFrom0To23);
 /// 0 to 23: how many hours of its day, as these are counted, come before this one.
 std::int64_t hourOfDay(Hour hour, HourCount count);
 
+/// The same date and hour so many years later; 29 February gives 1 March where it has no namesake.
+Hour yearsAfter(Hour start, int years);
+
 /// Hours from this hour to the same date and hour one year later: 8760 or 8784.
 std::int64_t hoursOfYearFrom(Hour start);
 

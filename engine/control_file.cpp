@@ -60,8 +60,9 @@ class Values {
     return *number;
   }
 
-  double nextConcentration(std::string_view what, bool zeroAllowed) {
+  double nextConcentration(std::string_view what, bool zeroAllowed, std::string& text) {
     const std::string_view value = next();
+    text = value;
     const std::optional<double> number = parseDecimal(value);
     const bool fits = number && (*number > 0 || (zeroAllowed && *number == 0));
     if (!fits || *number > kLargestConcentration) {
@@ -172,14 +173,14 @@ Case parseControl(const ControlText& text) {
   values.nextFixed("1000000.0,0.0");
   theCase.scale = 1000000.0;
   theCase.offset = 0.0;
-  theCase.background = values.nextConcentration("ambient background", true);
+  theCase.background = values.nextConcentration("ambient background", true, theCase.backgroundText);
   theCase.averagingHours = values.nextWhole("averaging period in hours", 1, 8784);
-  theCase.standard = values.nextConcentration("standard or increment", false);
+  theCase.standard = values.nextConcentration("standard or increment", false, theCase.standardText);
   theCase.receptorFormat = values.nextOneOf("receptor file format", "1", "2") == "1" ? 1 : 2;
   theCase.receptorFile = values.nextText("receptor file");
   theCase.receptorLine = values.line();
   values.nextFixed("1");
-  theCase.sil = values.nextConcentration("significant impact level", false);
+  theCase.sil = values.nextConcentration("significant impact level", false, theCase.silText);
   values.nextFixed("2");
   theCase.excludeRank1 = values.nextOneOf("rank 1 option", "T", "F") == "T";
   values.nextFixed("0");
@@ -207,23 +208,28 @@ bool mayNameAFile(const ControlText& text, std::size_t line) {
 
 }  // namespace
 
-void refuseListFileAmongInputs(const ControlText& text, const NativePath& controlFile) {
-  const std::string listText = listFileOf(text);
-  const NativePath listFile = pathFromText(listText);
-  const auto refuse = [&](const std::string& what) {
-    throw Fault("The list file " + listText + " is also " + what + "; it was left as it is.");
-  };
-  if (sameFile(listFile, controlFile)) refuse("the control file");
+std::string roleOf(const std::string& file, const ControlText& text,
+                   const NativePath& controlFile) {
+  const NativePath path = pathFromText(file);
+  if (sameFile(path, controlFile)) return "the control file";
   for (std::size_t i = 1; i < text.lines.size(); ++i) {
     if (!mayNameAFile(text, i + 1)) continue;
     const std::string_view line = text.lines[i];
     const std::size_t colon = line.find(':');
     const std::string_view value = colon == line.npos ? line : line.substr(colon + 1);
     if (value.empty() || value.find('\0') != value.npos) continue;
-    if (value == listText || sameFile(listFile, pathFromText(value))) {
-      refuse("named in line " + std::to_string(i + 1) + " of the control file");
+    if (value == file || sameFile(path, pathFromText(value))) {
+      return "named in line " + std::to_string(i + 1) + " of the control file";
     }
   }
+  return {};
+}
+
+void refuseListFileAmongInputs(const ControlText& text, const NativePath& controlFile) {
+  const std::string listFile = listFileOf(text);
+  const std::string role = roleOf(listFile, text, controlFile);
+  if (role.empty()) return;
+  throw Fault("The list file " + listFile + " is also " + role + "; it was left as it is.");
 }
 
 }  // namespace korventally::engine

@@ -39,6 +39,7 @@ struct Case {
   std::string receptorFile;
   std::size_t receptorLine = 0;
   bool excludeRank1 = false;
+  std::string backgroundText, standardText, silText;  ///< those numbers as they were given
 };
 
 /// The lines of a control file as they stand there, without their line ends.
@@ -55,6 +56,10 @@ std::string listFileOf(const ControlText& text);
 
 /// The case, or Fault with the number of the first line at fault.
 Case parseControl(const ControlText& text);
+
+/// What this file, given as text, is to the case already: "the control file", "named in line 6 of
+/// the control file", or nothing.
+std::string roleOf(const std::string& file, const ControlText& text, const NativePath& controlFile);
 
 /// Throws Fault when the list file is the control file or any file that the control file names:
 /// creating the list file would empty it.

@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "engine/averages.h"
 #include "engine/blocks.h"
 #include "engine/clock.h"
 #include "engine/columns.h"
@@ -28,6 +29,7 @@
 #include "engine/system_files.h"
 #include "engine/text.h"
 #include "engine/valid_hours.h"
+#include "engine/warnings.h"
 
 namespace korventally::engine {
 namespace {
@@ -57,7 +59,7 @@ std::vector<GroupSums> readAll(const Case& theCase,
                                const Blocks& blocks, const Receptors& receptors, ListFile& list) {
   try {
     return readGroups(files, blocks, receptors, [&](std::size_t i, const GroupSums& sums) {
-      reportGroupFile(theCase.groups[i], sums, list);
+      reportGroupFile(theCase.groups[i], sums, files[i]->modified(), list);
     });
   } catch (const std::bad_alloc&) {
     const auto averages =
@@ -73,32 +75,50 @@ void reportElapsed(Clock::time_point begin, ListFile& list) {
   list.line();
 }
 
+std::vector<std::string> allWarnings(const Names& names, const Receptors& receptors,
+                                     const std::vector<GroupSums>& groups, const RunHours& hours,
+                                     const Averages& averages, const Judgement& judgement) {
+  const Averages ifCalm(names.theCase, names.blocks, groups, names.receptors.size(),
+                        validHoursOfBlocks(names.blocks, hours, true));
+  std::vector<std::string> warnings = warningsOf(names, averages, judgement);
+  const std::string ofZeros = warningOfZeroHours(names, hours, ifCalm, judgement);
+  const std::string ofRanks = warningOfRankedValues(names, receptors, averages);
+  for (const std::string& warning : {ofRanks, ofZeros}) {
+    if (!warning.empty()) warnings.insert(warnings.begin(), warning);
+  }
+  return warnings;
+}
+
+void reportResults(const Names& names, const Receptors& receptors,
+                   const std::vector<GroupSums>& groups, const RunHours& hours, ListFile& list) {
+  const Blocks& blocks = names.blocks;
+  const Averages averages(names.theCase, blocks, groups, names.receptors.size(),
+                          validHoursOfBlocks(blocks, hours));
+  std::vector<std::string> ofHours = linesOfClock(blocks);
+  std::ranges::move(linesOfMarkedHours(blocks, hours, averages), std::back_inserter(ofHours));
+  reportAverages(names.theCase, blocks, ofHours, list);
+  const Judgement judgement = judge(names.theCase, blocks, averages, [](const Place&) {});
+  const std::vector<std::string> warnings =
+      allWarnings(names, receptors, groups, hours, averages, judgement);
+  reportJudgement(names, averages, judgement, list);
+  reportWarnings(warnings, list);
+  reportMaxima(names, judgement, list);
+  reportExceedances(names, averages, judgement, list);
+  reportReceptors(names, judgement, list);
+  reportLeftOut(names, judgement, list);
+}
+
 void compute(const Case& theCase, ListFile& list) {
   const auto begin = Clock::now();
-  reportCase(theCase, list);
   Blocks blocks = planBlocks(theCase);
   const auto files = openGroups(theCase);
   const auto receptorFile = openNamedFile(theCase.receptorFile, theCase.receptorLine);
   const Receptors receptors = readReceptors(*receptorFile, theCase.receptorFormat);
-  const std::size_t count = receptors.list.size();
-  reportReceptorFile(theCase, receptors, list);
+  reportReceptorFile(theCase, receptors, receptorFile->modified(), list);
   const std::vector<GroupSums> groups = readAll(theCase, files, blocks, receptors, list);
   blocks.hourCount = agreeOnClock(theCase, groups);
   const RunHours hours = agreeOnHours(theCase, blocks, groups);
-  const Names names{theCase, blocks, receptors.list};
-  const Averages averages(theCase, blocks, groups, count, validHoursOfBlocks(blocks, hours));
-  std::vector<std::string> ofHours = linesOfClock(blocks);
-  std::ranges::move(linesOfMarkedHours(blocks, hours, averages), std::back_inserter(ofHours));
-  reportAverages(theCase, blocks, ofHours, list);
-  const Judgement judgement = judge(theCase, averages);
-  reportMaxima(names, judgement, list);
-  reportCounts(names, judgement, list);
-  reportExceedances(names, averages, judgement, list);
-  reportLeftOut(names, judgement, list);
-  const Averages ifCalm(theCase, blocks, groups, count, validHoursOfBlocks(blocks, hours, true));
-  std::vector<std::string> ofInput = warningOfZeroHours(names, hours, ifCalm, judgement);
-  std::ranges::move(warningOfRankedValues(names, receptors, averages), std::back_inserter(ofInput));
-  reportWarnings(names, averages, judgement, ofInput, list);
+  reportResults({theCase, blocks, receptors.list}, receptors, groups, hours, list);
   reportElapsed(begin, list);
 }
 
@@ -115,10 +135,12 @@ std::string sentenceOf(const Work& work) noexcept {
   }
 }
 
-Result runIntoListFile(const ControlText& text, ListFile& list) {
+Result runIntoListFile(const ControlText& text, const NativePath& controlFile, ListFile& list) {
   const std::string sentence = sentenceOf([&] {
     reportTitle(list);
-    compute(parseControl(text), list);
+    const Case theCase = parseControl(text);
+    reportCase(theCase, textFromPath(controlFile), list);
+    compute(theCase, list);
     list.complete();
   });
   if (sentence.empty()) return {};
@@ -133,7 +155,7 @@ Result runCase(const NativePath& controlFile) noexcept {
     const ControlText text = readControlText(controlFile);
     refuseListFileAmongInputs(text, controlFile);
     ListFile list(pathFromText(listFileOf(text)));
-    result = runIntoListFile(text, list);
+    result = runIntoListFile(text, controlFile, list);
   });
   if (!sentence.empty()) result = {Outcome::kNoListFile, sentence};
   return result;

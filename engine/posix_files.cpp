@@ -2,6 +2,7 @@
 #include <fcntl.h>
 #include <signal.h>
 #include <sys/stat.h>
+#include <time.h>
 #include <unistd.h>
 
 #include <atomic>
@@ -65,6 +66,16 @@ bool sameFile(const NativePath& one, const NativePath& other) {
   return first.st_dev == second.st_dev && first.st_ino == second.st_ino;
 }
 
+std::int64_t localOffsetAt(std::int64_t seconds) {
+  const time_t moment = seconds;
+  struct tm local;
+  return ::localtime_r(&moment, &local) == nullptr ? 0 : local.tm_gmtoff;
+}
+
+void deleteFile(const NativePath& path) {
+  if (::unlink(path.c_str()) != 0) fail(path, "deleted", errno);
+}
+
 InputFile::InputFile(const NativePath& path) : path_(path) {
   const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
   if (descriptor < 0) fail(path_, "opened", errno);
@@ -76,6 +87,7 @@ InputFile::InputFile(const NativePath& path) : path_(path) {
   }
   handle_ = descriptor;
   size_ = static_cast<std::uint64_t>(state.st_size);
+  modified_ = state.st_mtime;
 }
 
 InputFile::~InputFile() { ::close(descriptor(handle_)); }
@@ -88,8 +100,9 @@ std::size_t InputFile::read(char* to, std::size_t size) {
   }
 }
 
-OutputFile::OutputFile(const NativePath& path) : path_(path) {
-  handle_ = ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+OutputFile::OutputFile(const NativePath& path, Creation creation) : path_(path) {
+  const int existing = creation == Creation::kNew ? O_EXCL : O_TRUNC;
+  handle_ = ::open(path.c_str(), O_WRONLY | O_CREAT | existing | O_CLOEXEC, 0666);
   if (handle_ < 0) fail(path_, "created", errno);
 }
 
@@ -111,6 +124,12 @@ void OutputFile::replaceFrom(std::uint64_t place, std::string_view text) {
   if (error != 0) fail(path_, "written", error);
   size_ = place + text.size();
   if (::ftruncate(descriptor(handle_), static_cast<off_t>(size_)) != 0) fail(path_, "cut", errno);
+}
+
+void OutputFile::replaceBeginning(std::string_view text) {
+  if (::lseek(descriptor(handle_), 0, SEEK_SET) < 0) fail(path_, "written", errno);
+  const int error = writeAll(descriptor(handle_), text);
+  if (error != 0) fail(path_, "written", error);
 }
 
 void OutputFile::flush() {

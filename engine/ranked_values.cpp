@@ -70,8 +70,8 @@ void note(const std::optional<Difference>& difference, Differences& all) {
 
 }  // namespace
 
-std::vector<std::string> warningOfRankedValues(const Names& names, const Receptors& receptors,
-                                               const Averages& averages) {
+std::string warningOfRankedValues(const Names& names, const Receptors& receptors,
+                                  const Averages& averages) {
   if (!receptors.isRanked) return {};
   Differences without, with;
   const std::vector<std::vector<RankedValue>> lists = byReceptor(receptors);
@@ -84,14 +84,13 @@ std::vector<std::string> warningOfRankedValues(const Names& names, const Recepto
   if (fewer.receptors == 0) return {};
   const auto& [listed, computed, rank] = *fewer.first;
   const std::string group = names.theCase.groups.front().name;
-  return {"  The ranked list of receptors has other values than the averages of " + group +
-              " computed here, at " + grouped(fewer.receptors) + " of " +
-              counted(lists.size(), "receptor") + ".",
-          "  Line " + std::to_string(listed.line) + ", for example: " + fixed(listed.value, 4) +
-              " at " + receptors.list[listed.receptor].id + ", whose highest average no. " +
-              std::to_string(rank) + " is " +
-              (computed ? fixed(*computed, 4) : std::string("none at all")) + ".",
-          "  It may belong to another run, group or averaging period. Its values are not used."};
+  return "The ranked list of receptors has other values than the averages of " + group +
+         " computed here, at " + grouped(fewer.receptors) + " of " +
+         counted(lists.size(), "receptor") + ". Line " + std::to_string(listed.line) +
+         ", for example: " + fixed(listed.value, 4) + " at " + receptors.list[listed.receptor].id +
+         ", whose highest average no. " + std::to_string(rank) + " is " +
+         (computed ? fixed(*computed, 4) : std::string("none at all")) +
+         ". It may belong to another run, group or averaging period. Its values are not used.";
 }
 
 }  // namespace korventally::engine

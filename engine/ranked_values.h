@@ -2,7 +2,6 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "engine/judgement.h"
 #include "engine/receptor_file.h"
@@ -11,9 +10,9 @@
 namespace korventally::engine {
 
 /// A ranked list gives the highest averages of all sources: the values that it has for a receptor
-/// are that receptor's highest ones, with or without the background. Lines of a warning where they
+/// are that receptor's highest ones, with or without the background. A warning where they
 /// differ by more than 0.1 per cent and 0.001 ug/m**3; empty where none does, and for other files.
-std::vector<std::string> warningOfRankedValues(const Names& names, const Receptors& receptors,
-                                               const Averages& averages);
+std::string warningOfRankedValues(const Names& names, const Receptors& receptors,
+                                  const Averages& averages);
 
 }  // namespace korventally::engine

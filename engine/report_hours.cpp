@@ -5,8 +5,14 @@
 #include <string>
 #include <vector>
 
+#include "engine/averages.h"
+#include "engine/blocks.h"
 #include "engine/columns.h"
+#include "engine/concentration_file.h"
+#include "engine/judgement.h"
+#include "engine/report_results.h"
 #include "engine/text.h"
+#include "engine/valid_hours.h"
 
 namespace korventally::engine {
 namespace {
@@ -46,29 +52,26 @@ std::vector<std::string> linesOfMarkedHours(const Blocks& blocks, const RunHours
   return lines;
 }
 
-std::vector<std::string> warningOfZeroHours(const Names& names, const RunHours& hours,
-                                            const Averages& ifCalm, const Judgement& judgement) {
+std::string warningOfZeroHours(const Names& names, const RunHours& hours, const Averages& ifCalm,
+                               const Judgement& judgement) {
   if (hours.zero == 0) return {};
   const bool one = hours.zero == 1;
-  const std::string count = one ? "1 hour is" : grouped(hours.zero) + " hours are";
-  std::vector<std::string> lines = {
-      "  " + count + " zero at every receptor of every group and not marked calm or missing; " +
-      (one ? "it is" : "they are") + " counted as valid."};
-  const Judgement other = judge(names.theCase, ifCalm);
+  const std::string warning =
+      (one ? "1 hour is" : grouped(hours.zero) + " hours are") +
+      " zero at every receptor of every group and not marked calm or missing; " +
+      (one ? "it is" : "they are") + " counted as valid. If " + (one ? "it was" : "they were") +
+      " calm, ";
+  const Judgement other = judge(names.theCase, names.blocks, ifCalm, [](const Place&) {});
   const Place& now = judgement.maxima.front().highest;
   const Place& then = other.maxima.front().highest;
-  const std::string start = std::string("  If ") + (one ? "it was" : "they were") + " calm, ";
-  if (now.value == then.value && judgement.exceedances == other.exceedances) {
-    lines.push_back(start +
-                    "neither the highest average nor the number of exceedances would change.");
-    return lines;
+  const std::uint64_t exceedances = judgement.exceedances.count;
+  if (now.value == then.value && exceedances == other.exceedances.count) {
+    return warning + "neither the highest average nor the number of exceedances would change.";
   }
-  lines.push_back(start + "the highest average of " + names.theCase.groups.front().name +
-                  " would be " + fixed(then.value, 4) + " instead of " + fixed(now.value, 4) +
-                  " ug/m**3,");
-  lines.push_back("  with " + counted(other.exceedances, "exceedance") + " instead of " +
-                  grouped(judgement.exceedances) + ".");
-  return lines;
+  return warning + "the highest average of " + names.theCase.groups.front().name + " would be " +
+         fixed(then.value, 4) + " instead of " + fixed(now.value, 4) + " ug/m**3, with " +
+         counted(other.exceedances.count, "exceedance") + " instead of " + grouped(exceedances) +
+         ".";
 }
 
 }  // namespace korventally::engine

@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "engine/averages.h"
+#include "engine/blocks.h"
 #include "engine/concentration_file.h"
 #include "engine/judgement.h"
 #include "engine/report_results.h"
@@ -20,9 +22,9 @@ std::vector<std::string> linesOfMarkedHours(const Blocks& blocks, const RunHours
                                             const Averages& averages);
 
 /// Hours that are zero everywhere may be calm ones that nobody marked, or hours in which no source
-/// was at work. Lines that say how many there are and what they change; empty when there are none.
-/// `ifCalm` are the averages without them.
-std::vector<std::string> warningOfZeroHours(const Names& names, const RunHours& hours,
-                                            const Averages& ifCalm, const Judgement& judgement);
+/// was at work. A warning that says how many there are and what they change; empty when there are
+/// none. `ifCalm` are the averages without them.
+std::string warningOfZeroHours(const Names& names, const RunHours& hours, const Averages& ifCalm,
+                               const Judgement& judgement);
 
 }  // namespace korventally::engine

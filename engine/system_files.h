@@ -26,6 +26,13 @@ std::string textFromPath(const NativePath& path);
 /// True when both paths lead to one existing file, however they are spelled.
 bool sameFile(const NativePath& one, const NativePath& other);
 
+/// Seconds by which the system's local time is ahead of UTC at this moment, given in seconds since
+/// 1970-01-01 00:00 UTC.
+std::int64_t localOffsetAt(std::int64_t seconds);
+
+/// Deletes the file. Throws Fault when there is none or it cannot be deleted.
+void deleteFile(const NativePath& path);
+
 /// A file open for reading from front to back. Others may read, write and delete it meanwhile.
 /// Only ordinary files: folders, devices and pipes are refused.
 class InputFile {
@@ -36,6 +43,9 @@ class InputFile {
   ~InputFile();
 
   std::uint64_t size() const { return size_; }
+
+  /// When it was last written, in seconds since 1970-01-01 00:00 UTC.
+  std::int64_t modified() const { return modified_; }
 
   std::string name() const { return textFromPath(path_); }
 
@@ -51,13 +61,17 @@ class InputFile {
   NativePath path_;
   std::intptr_t handle_ = -1;
   std::uint64_t size_ = 0;
+  std::int64_t modified_ = 0;
 };
+
+/// Whether a file that exists already is emptied, or is a fault.
+enum class Creation { kReplace, kNew };
 
 /// A file created, or emptied, for writing. Others may read and delete it while it grows. Nothing
 /// is held back in the program: what append() returned from can be read by everyone.
 class OutputFile {
  public:
-  explicit OutputFile(const NativePath& path);
+  explicit OutputFile(const NativePath& path, Creation creation = Creation::kReplace);
   OutputFile(const OutputFile&) = delete;
   OutputFile& operator=(const OutputFile&) = delete;
   ~OutputFile();
@@ -71,6 +85,9 @@ class OutputFile {
 
   /// Returns once the system has put everything on the disk.
   void flush();
+
+  /// Writes over as many bytes at the beginning, which must be there.
+  void replaceBeginning(std::string_view text);
 
   std::uint64_t size() const { return size_; }
 

@@ -91,6 +91,20 @@ bool moveTo(HANDLE handle, std::uint64_t place, DWORD method, std::uint64_t* end
   return true;
 }
 
+// The system counts steps of 100 ns since 1601.
+constexpr std::int64_t kStepsPerSecond = 10000000;
+constexpr std::int64_t kSecondsTo1970 = 11644473600;
+
+FILETIME fileTime(std::int64_t seconds) {
+  const std::int64_t steps = (seconds + kSecondsTo1970) * kStepsPerSecond;
+  return {static_cast<DWORD>(steps), static_cast<DWORD>(steps >> 32)};
+}
+
+std::int64_t secondsOf(const FILETIME& time) {
+  const std::int64_t steps = (std::int64_t{time.dwHighDateTime} << 32) | time.dwLowDateTime;
+  return steps / kStepsPerSecond - kSecondsTo1970;
+}
+
 std::atomic<HANDLE> crashHandle{INVALID_HANDLE_VALUE};
 std::string_view crashNotice;
 
@@ -138,6 +152,22 @@ bool sameFile(const NativePath& one, const NativePath& other) {
          a.nFileIndexHigh == b.nFileIndexHigh && a.nFileIndexLow == b.nFileIndexLow;
 }
 
+std::int64_t localOffsetAt(std::int64_t seconds) {
+  const FILETIME moment = fileTime(seconds);
+  SYSTEMTIME utc, local;
+  FILETIME shifted;
+  if (!FileTimeToSystemTime(&moment, &utc) ||
+      !SystemTimeToTzSpecificLocalTime(nullptr, &utc, &local) ||
+      !SystemTimeToFileTime(&local, &shifted)) {
+    return 0;
+  }
+  return secondsOf(shifted) - seconds;
+}
+
+void deleteFile(const NativePath& path) {
+  if (!DeleteFileW(fullPath(path).c_str())) fail(path, "deleted", GetLastError());
+}
+
 InputFile::InputFile(const NativePath& path) : path_(path) {
   const HANDLE handle = open(path, GENERIC_READ, OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN);
   if (handle == INVALID_HANDLE_VALUE) fail(path_, "opened", GetLastError());
@@ -150,6 +180,8 @@ InputFile::InputFile(const NativePath& path) : path_(path) {
   }
   handle_ = reinterpret_cast<std::intptr_t>(handle);
   size_ = static_cast<std::uint64_t>(size.QuadPart);
+  FILETIME written;
+  if (GetFileTime(handle, nullptr, nullptr, &written)) modified_ = secondsOf(written);
 }
 
 InputFile::~InputFile() { CloseHandle(asHandle(handle_)); }
@@ -162,9 +194,10 @@ std::size_t InputFile::read(char* to, std::size_t size) {
   return count;
 }
 
-OutputFile::OutputFile(const NativePath& path) : path_(path) {
+OutputFile::OutputFile(const NativePath& path, Creation creation) : path_(path) {
+  const DWORD disposition = creation == Creation::kNew ? CREATE_NEW : CREATE_ALWAYS;
   // Nobody else may write: the verdict of another run must not get into this list file.
-  const HANDLE handle = open(path, GENERIC_WRITE, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL,
+  const HANDLE handle = open(path, GENERIC_WRITE, disposition, FILE_ATTRIBUTE_NORMAL,
                              FILE_SHARE_READ | FILE_SHARE_DELETE);
   if (handle == INVALID_HANDLE_VALUE) fail(path_, "created", GetLastError());
   requireDiskFile(handle, path);
@@ -187,6 +220,13 @@ void OutputFile::replaceFrom(std::uint64_t place, std::string_view text) {
   if (error != ERROR_SUCCESS) fail(path_, "written", error);
   size_ = place + text.size();
   if (!SetEndOfFile(asHandle(handle_))) fail(path_, "cut", GetLastError());
+}
+
+void OutputFile::replaceBeginning(std::string_view text) {
+  std::uint64_t place = 0;
+  if (!moveTo(asHandle(handle_), 0, FILE_BEGIN, &place)) fail(path_, "written", GetLastError());
+  const DWORD error = writeAll(asHandle(handle_), text);
+  if (error != ERROR_SUCCESS) fail(path_, "written", error);
 }
 
 void OutputFile::flush() {

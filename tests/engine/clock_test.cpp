@@ -36,7 +36,7 @@ struct Count {
   std::vector<std::string> says;
 };
 
-const char* const kOn = "\r\n\r\nHIGHEST";  // directly behind the line on the averages
+const char* const kOn = "\r\n\r\nJUDGEMENT";  // directly behind the line on the averages
 
 const Count kCounts[] = {
     {"1 24",
@@ -47,7 +47,7 @@ const Count kCounts[] = {
      {"12 hours (2009-01-01 19 to 2009-01-02 06), 2 receptors\r\n",
       "  hours counted 1 to 24; no hour marked",
       std::string("2 averages of 3 hours, 2009-01-01 22 to 2009-01-02 03") + kOn,
-      "   2  A                100.0     200.0  2009-01-02 01       10.0000 yes"}},
+      "   2  A                100.0     200.0  2009-01-02 01     3        10.0000"}},
     {"1 24",
      12,
      "2009,01,01,24",
@@ -57,7 +57,7 @@ const Count kCounts[] = {
       "  Off the clock: the first average begins at hour 24.\r\n"
       "  To have calendar days and their parts, start the run at hour 01, or a multiple of the "
       "averaging period later.\r\n",
-      "   1  A                100.0     200.0  2009-01-01 24       10.0000 yes"}},
+      "   1  A                100.0     200.0  2009-01-01 24     3        10.0000"}},
     {"2 0",
      12,
      "2009,01,01,22",

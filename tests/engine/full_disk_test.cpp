@@ -4,7 +4,9 @@
 #include <signal.h>
 #include <sys/resource.h>
 
+#include <filesystem>
 #include <string>
+#include <vector>
 
 #include "engine/fault.h"
 #include "engine/list_file.h"

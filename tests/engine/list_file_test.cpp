@@ -27,6 +27,13 @@ TEST(ListFile, CanBeReadWhileItGrowsAndHasNoVerdictUntilTheEnd) {
   EXPECT_EQ(study.read("out.lst"), "one\r\ntwo\r\n\r\nRUN COMPLETED\r\n");
 }
 
+TEST(ListFile, LetsNoOtherLineBeTakenForTheVerdict) {
+  const Study study;
+  ListFile list(study.path("out.lst"));
+  for (const char* line : {"RUN COMPLETED", "  RUN FAILED ", "RUN FAILED today"}) list.line(line);
+  EXPECT_EQ(study.read("out.lst"), "RUN COMPLETED.\r\n  RUN FAILED.\r\nRUN FAILED today\r\n");
+}
+
 TEST(ListFile, TakesBackACompletionThatCouldNotBeMadeSafe) {
   const Study study;
   ListFile list(study.path("out.lst"));

@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdio>
 #include <map>
 #include <string>
 #include <vector>
@@ -11,39 +10,6 @@
 
 namespace korventally::engine {
 namespace {
-
-// Values in ug/m**3 that the files give in g/m**3.
-std::string micro(const std::vector<double>& values) {
-  std::string row;
-  for (const double value : values) {
-    char text[32];
-    std::snprintf(text, sizeof text, "%.6E ", value * 1e-6);
-    row += text;
-  }
-  return row;
-}
-
-void writeMicro(const Study& study, const char* name,
-                const std::vector<std::vector<double>>& hours) {
-  std::vector<std::string> rows;
-  for (const auto& hour : hours) rows.push_back(micro(hour));
-  study.writeHours(name, rows);
-}
-
-std::string completedList(const Study& study) {
-  const Result result = study.run();
-  EXPECT_EQ(result.sentence, "");
-  EXPECT_EQ(study.lastLine(), "RUN COMPLETED");
-  return study.read("out.lst");
-}
-
-void expectSays(const std::string& list, const std::vector<std::string>& texts) {
-  for (const std::string& text : texts) EXPECT_NE(list.find(text), list.npos) << text << list;
-}
-
-void expectSilent(const std::string& list, const std::string& text) {
-  EXPECT_EQ(list.find(text), list.npos) << list;
-}
 
 // Receptor A averages 10, 12; B averages 20, 9. FACILITY at A 3, 0.9; at B 1, 5. OTHER_1 the rest.
 Study& fill(Study& study) {
@@ -71,24 +37,38 @@ TEST(Results, OfTwoReceptorsAndTwoBlocksByHand) {
         "Averages judged:              4\r\n",
         "Exceedances:                  3 (ALL_SOURCES above 9.5 ug/m**3)",
         "Receptors that exceed:        2 of 2\r\n",
-        "Significant exceedances:      2 (FACILITY contributes 1 ug/m**3 or more)",
-        "   1  B                300.5    -400.0  2009-01-01 00       20.0000 yes    1.000   5.0   "
-        "19.000  95.0\r\n"
-        "   2  A                100.0     200.0  2009-01-01 03       12.0000  no    0.900   7.5   "
-        "11.100  92.5\r\n"
-        "   3  A                100.0     200.0  2009-01-01 00       10.0000 yes    3.000  30.0    "
-        "7.000  70.0\r\n",
+        "Significant exceedances:      2 (FACILITY contributes 1.0 ug/m**3 or more)",
+        "Largest contribution:         3.0000 ug/m**3 of FACILITY at an exceedance\r\n"
+        "    Where and when:             receptor A (X 100.0, Y 200.0), first hour 2009-01-01 "
+        "00\r\n"
+        "    Total there:                10.0000 ug/m**3\r\n",
+        "   1  B                300.5    -400.0  2009-01-01 00     3        20.0000         1.0000"
+        "    5.0  yes       0.0000\r\n"
+        "      | OTHER_1           19.0000  95.0 %\r\n"
+        "   2  A                100.0     200.0  2009-01-01 03     3        12.0000         0.9000"
+        "    7.5   no       0.0000\r\n"
+        "      | OTHER_1           11.1000  92.5 %\r\n"
+        "   3  A                100.0     200.0  2009-01-01 00     3        10.0000         3.0000"
+        "   30.0  yes       0.0000\r\n"
+        "      | OTHER_1            7.0000  70.0 %\r\n\r\n",
+        "Highest  First hour      Contribution  First hour\r\n"
+        "  A                100.0     200.0       2       1        12.0000  2009-01-01 03"
+        "         3.0000  2009-01-01 00\r\n"
+        "  B                300.5    -400.0       1       1        20.0000  2009-01-01 00"
+        "         1.0000  2009-01-01 00\r\n",
         "WARNINGS\r\n  None.\r\n"}},
       // Every receptor's highest average is left out.
       {{{15, "9.5"}, {21, "T"}},
        {"Averages judged:              2\r\n", "Exceedances:                  1 (",
-        "\r\n  A                100.0     200.0  2009-01-01 03     12.0000\r\n"
-        "  B                300.5    -400.0  2009-01-01 00     20.0000\r\n",
-        "   1  A                100.0     200.0  2009-01-01 00       10.0000 yes"}},
+        "\r\n     1  A                100.0     200.0  2009-01-01 03         12.0000\r\n"
+        "     1  B                300.5    -400.0  2009-01-01 00         20.0000\r\n",
+        "   1  A                100.0     200.0  2009-01-01 00     3        10.0000"}},
       // The background belongs to the first group only.
       {{{13, "2.5"}, {15, "22"}},
        {"ALL_SOURCES    1st            22.5000", "FACILITY       1st             5.0000",
-        "       22.5000 yes    1.000   4.4   19.000  84.4",
+        "        22.5000         1.0000    4.4  yes       0.0000\r\n"
+        "      | OTHER_1           19.0000  84.4 %",
+        "Largest contribution:         1.0000 ug/m**3 of FACILITY at an exceedance\r\n",
         "The background of 2.5 ug/m**3 is part of every value of ALL_SOURCES below.",
         "WARNINGS\r\n  None.\r\n"}},
       // The hours of the run out of longer files.
@@ -98,9 +78,14 @@ TEST(Results, OfTwoReceptorsAndTwoBlocksByHand) {
         "6 hours (2009-01-01 00 to 2009-01-01 05), 2 receptors"}},
       {{{14, "4"}}, {"The last 2 hours of the run fill no averaging period and are not used."}},
       {{{14, "5"}}, {"The last 1 hour of the run fill no averaging period and is not"}},
-      {{{14, "6"}, {21, "T"}},
-       {"Averages judged:              0\r\n", "EXCEEDANCES, the largest first\r\n  None.\r\n",
-        "Every receptor has one average only, and rank 1 is excluded: nothing was judged."}},
+      // FACILITY averages 1.95 at A and 3 at B, where alone the total exceeds.
+      {{{14, "8760"}, {15, "14"}, {19, "3.1"}, {21, "T"}},
+       {"Averages judged:              2\r\n", "Exceedances:                  1 (",
+        "3.0000 ug/m**3 of FACILITY at an exceedance, below 3.1: none is significant\r\n",
+        "Rank 1 is excluded, but every receptor has one average only: nothing was left out"}},
+      {{{15, "20"}},
+       {"Largest contribution:         none: nothing exceeds\r\n",
+        "EXCEEDANCES, the largest first\r\n  None.\r\n"}},
   };
   for (const Told& row : rows) {
     Study study;
@@ -143,9 +128,9 @@ TEST(Results, OfTotalsThatOnlyRoundingTellsApartTheEarliestIsTheHighest) {
 
 TEST(Results, ShowWhereAReceptorLies) {
   Study study;
-  study.write("receptors.dat", "-1234567.8 345.123 A\n4123456.7 -0.25 B\n");
+  study.write("receptors.dat", "-1234567.8 345.123 A\n4123456.7 -0 B\n");
   expectSays(completedList(study),
-             {"A             -1234568   345.123", "B            4123456.7     -0.25"});
+             {"A            -1234567.8   345.123", "B             4123456.7     0.000"});
 }
 
 TEST(Results, NeverShowAGroupsNameAsTheVerdict) {
@@ -181,10 +166,9 @@ TEST(Results, WarnWhenThePartsAreMoreThanTheWhole) {
   writeMicro(study, "group_3.con", std::vector<std::vector<double>>(6, {8.5, 19.01}));
   // Block 1: A 3 + 8.5 against 10, B 1 + 19.01 against 20 (within rounding); block 2: A below, B
   // above.
-  expectSays(
-      completedList(study),
-      {"In 2 averages the groups FACILITY and OTHER together give more than ALL_SOURCES",
-       "The worst case: 24.0100 against 9.0000 ug/m**3 at receptor B,\r\n  from 2009-01-01 03."});
+  expectSays(completedList(study),
+             {"In 2 averages the groups FACILITY and OTHER_1 together give more than ALL_SOURCES",
+              "The worst case: 24.0100 against 9.0000", " 2009-01-01 03. The files may belong"});
 }
 
 TEST(Results, TakeATenthOfAPerCentForRounding) {
@@ -192,8 +176,8 @@ TEST(Results, TakeATenthOfAPerCentForRounding) {
   writeMicro(study, "all.con", std::vector<std::vector<double>>(6, {10, 10}));
   writeMicro(study, "group_2.con", std::vector<std::vector<double>>(6, {4, 4}));
   writeMicro(study, "group_3.con", std::vector<std::vector<double>>(6, {6.0105, 6.0115}));
-  expectSays(completedList(study), {"In 2 averages the groups FACILITY and OTHER",
-                                    "10.0115 against 10.0000 ug/m**3 at receptor B"});
+  expectSays(completedList(study),
+             {"In 2 averages the groups FACILITY and OTHER_1", "10.0115 against 10.0000"});
 }
 
 TEST(Results, RefuseRunsThatHoldNoAverage) {
@@ -220,23 +204,25 @@ TEST(Results, RefuseRunsThatHoldNoAverage) {
 }
 
 TEST(Results, FitTheWidthForAnyNumberOfGroupsAndNumbers) {
-  for (const std::size_t groups : {2u, 5u, 6u, 50u}) {
+  for (const std::size_t groups : {2u, 6u, 50u}) {
     Study study(groups);
-    study.write("receptors.dat", "-123456.7 4567890.1 TWELVE_CHARS\n1e9 -1e9 B\n");
-    writeMicro(study, "all.con", std::vector<std::vector<double>>(6, {1e13, 123456.789}));
+    study.write("receptors.dat", "-999999999.000001 -999999999.000001 TWELVE_CHARS\n1 2 B\n");
+    const std::vector<std::vector<double>> hours(6, {1e13, 123456.789});
+    writeMicro(study, "all.con", hours);
     for (std::size_t i = 3; i < groups; ++i) study.line(7 + 2 * i) = "THIRTEEN_WIDE";
+    for (std::size_t i = 2; i <= groups; ++i) {
+      writeMicro(study, "group_" + std::to_string(i) + ".con", hours);
+    }
+    study.line(9 + 2 * groups) = "123456.7889999";
+    study.line(15 + 2 * groups) = groups == 6 ? "T" : "F";
     completedList(study);
-    std::size_t widest = 0, cells = 0;
+    std::size_t widest = 0;
     for (const std::string& line : study.list()) {
-      const bool path = line.find(".con") != line.npos || line.find(".dat") != line.npos;
+      const bool path = line.find(study.text("")) != line.npos;
       if (!path) widest = std::max(widest, line.size());
-      if (line.starts_with("---")) cells = line.size();
     }
     EXPECT_LE(widest, 132u);
-    if (groups == 5) {
-      EXPECT_EQ(cells, 131u);
-    }
-    expectSays(study.read("out.lst"), {"1.0000E+13 yes"});
+    EXPECT_GE(widest, 130u);
   }
 }
 

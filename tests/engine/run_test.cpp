@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <chrono>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -12,9 +13,17 @@ namespace {
 
 TEST(Run, RepeatsTheCaseAndEndsWithTheVerdict) {
   Study study;
+  // A billion seconds after 1970, far enough from midnight for every time zone.
+  const auto moment = std::chrono::sys_seconds(std::chrono::seconds(1000000000 + 10 * 3600));
+  std::filesystem::last_write_time(study.path("receptors.dat"),
+                                   std::chrono::file_clock::from_sys(moment));
   EXPECT_EQ(study.run().outcome, Outcome::kCompleted);
   const std::string list = study.read("out.lst");
-  EXPECT_NE(list.find("Species:                      SO2\r\n"), std::string::npos) << list;
+  expectSays(list, {"  Control file:                 " + study.text("korventally.inp") + "\r\n",
+                    "  List file:                    " + study.text("out.lst") + "\r\n",
+                    "  Species:                      SO2\r\n",
+                    "  Standard or increment:        8.0 ug/m**3\r\n",
+                    "                 36 bytes, written 2001-09-09 "});
   for (const char* name : {"all.con", "group_2.con", "group_3.con", "receptors.dat"}) {
     EXPECT_NE(list.find(study.text(name)), std::string::npos) << name;
   }

@@ -101,4 +101,51 @@ std::string Study::lastLine() const {
   return lines.empty() ? "" : lines.back();
 }
 
+namespace {
+
+// Values in ug/m**3 that the files give in g/m**3.
+std::string micro(const std::vector<double>& values) {
+  std::string row;
+  for (const double value : values) {
+    char text[32];
+    std::snprintf(text, sizeof text, "%.9E ", value * 1e-6);
+    row += text;
+  }
+  return row;
+}
+
+}  // namespace
+
+void writeMicro(const Study& study, const std::string& name,
+                const std::vector<std::vector<double>>& hours) {
+  std::vector<std::string> rows;
+  for (const auto& hour : hours) rows.push_back(micro(hour));
+  study.writeHours(name, rows);
+}
+
+std::string completedList(const Study& study) {
+  const Result result = study.run();
+  EXPECT_EQ(result.sentence, "");
+  EXPECT_EQ(study.lastLine(), "RUN COMPLETED");
+  return study.read("out.lst");
+}
+
+std::string warningsIn(const std::string& list) {
+  const std::size_t begin = list.find("WARNINGS\r\n") + 10;
+  std::string text;
+  for (const char c : list.substr(begin, list.find("\r\n\r\n", begin) - begin)) {
+    const bool blank = c == ' ' || c == '\r' || c == '\n';
+    if (!blank || (!text.empty() && text.back() != ' ')) text += blank ? ' ' : c;
+  }
+  return text;
+}
+
+void expectSays(const std::string& list, const std::vector<std::string>& texts) {
+  for (const std::string& text : texts) EXPECT_NE(list.find(text), list.npos) << text << list;
+}
+
+void expectSilent(const std::string& list, const std::string& text) {
+  EXPECT_EQ(list.find(text), list.npos) << list;
+}
+
 }  // namespace korventally::engine

@@ -50,4 +50,17 @@ class Study {
   std::size_t groups_;
 };
 
+/// Writes a concentration file of hours from 2009-01-01 00 on, given in ug/m**3.
+void writeMicro(const Study& study, const std::string& name,
+                const std::vector<std::vector<double>>& hours);
+
+/// Runs the study, which must complete, and returns the list file.
+std::string completedList(const Study& study);
+
+/// The section with the warnings, its lines joined by blanks.
+std::string warningsIn(const std::string& list);
+
+void expectSays(const std::string& list, const std::vector<std::string>& texts);
+void expectSilent(const std::string& list, const std::string& text);
+
 }  // namespace korventally::engine

@@ -75,8 +75,39 @@ TEST(Columns, NumbersKeepTheirWidth) {
   EXPECT_EQ(fixed(1234.5678, 3, 8), "1234.568");
   EXPECT_EQ(fixed(12345.678, 3, 8), "12345.68");
   EXPECT_EQ(fixed(123456789.0, 3, 8), "1.23E+08");
+  EXPECT_EQ(fixed(-0.00004, 4), "0.0000");
+  EXPECT_EQ(fixed(-0.00006, 4), "-0.0001");
   EXPECT_EQ(shortest(91.0), "91");
   EXPECT_EQ(shortest(0.2), "0.2");
+}
+
+TEST(Columns, NumbersShowOnWhichSideOfTheirLimitTheyAre) {
+  const struct {
+    double number, limit;
+    const char* text;
+  } rows[] = {
+      {91.5, 91, "91.5000"},
+      {5, 5, "5.0000"},
+      {5.00004, 5, "5.00004"},
+      {4.99999996, 5, "4.99999996"},
+      {5.000000003, 5, "5.0000"},  // no more than rounding
+      {0.0996, 0.1, "0.0996"},
+      {0.0999999, 0.1, "0.0999999"},
+      {0.12346, 0.123465, "0.12346"},  // four decimals would put it above
+      {0.12345, 0.12345, "0.12345"},
+      {2.0000001e-8, 2e-8, "2.0000001e-08"},
+      {123456789.25, 123456789, "123456789.2500"},
+      {9.7 * 3 / 3 + 2e-15, 9.7, "9.7000"},
+  };
+  for (const auto& row : rows) EXPECT_EQ(figure(row.number, row.limit), row.text) << row.number;
+}
+
+TEST(Columns, LongTextContinuesOnLinesOfItsOwn) {
+  const std::string word(45, 'x'), longWord(120, 'y');
+  const std::vector<std::string> two{"  " + word + " " + word + " abcdef", "    g"};
+  EXPECT_EQ(wrapped(word + " " + word + " abcdef g"), two);
+  const std::vector<std::string> long_{"  a", "    " + longWord, "    b"};
+  EXPECT_EQ(wrapped("a " + longWord + " b"), long_);
 }
 
 }  // namespace
