@@ -17,6 +17,7 @@
 #include "engine/columns.h"
 #include "engine/concentration_file.h"
 #include "engine/control_file.h"
+#include "engine/exceedance_file.h"
 #include "engine/fault.h"
 #include "engine/group_reader.h"
 #include "engine/judgement.h"
@@ -75,12 +76,21 @@ void reportElapsed(Clock::time_point begin, ListFile& list) {
   list.line();
 }
 
+// Judges, and writes each exceedance into the table as it is found.
+Judgement judgeInto(ExceedanceFile& table, const Names& names, const Averages& averages) {
+  table.begin(names.theCase);
+  Judgement judgement = judge(names.theCase, names.blocks, averages,
+                              [&](const Place& place) { table.add(names, averages, place); });
+  table.finish();
+  return judgement;
+}
+
 std::vector<std::string> allWarnings(const Names& names, const Receptors& receptors,
                                      const std::vector<GroupSums>& groups, const RunHours& hours,
                                      const Averages& averages, const Judgement& judgement) {
   const Averages ifCalm(names.theCase, names.blocks, groups, names.receptors.size(),
                         validHoursOfBlocks(names.blocks, hours, true));
-  std::vector<std::string> warnings = warningsOf(names, averages, judgement);
+  std::vector<std::string> warnings = warningsOf(names, groups, averages, judgement);
   const std::string ofZeros = warningOfZeroHours(names, hours, ifCalm, judgement);
   const std::string ofRanks = warningOfRankedValues(names, receptors, averages);
   for (const std::string& warning : {ofRanks, ofZeros}) {
@@ -90,17 +100,23 @@ std::vector<std::string> allWarnings(const Names& names, const Receptors& recept
 }
 
 void reportResults(const Names& names, const Receptors& receptors,
-                   const std::vector<GroupSums>& groups, const RunHours& hours, ListFile& list) {
+                   const std::vector<GroupSums>& groups, const RunHours& hours,
+                   ExceedanceFile& table, ListFile& list) {
   const Blocks& blocks = names.blocks;
   const Averages averages(names.theCase, blocks, groups, names.receptors.size(),
                           validHoursOfBlocks(blocks, hours));
   std::vector<std::string> ofHours = linesOfClock(blocks);
   std::ranges::move(linesOfMarkedHours(blocks, hours, averages), std::back_inserter(ofHours));
   reportAverages(names.theCase, blocks, ofHours, list);
-  const Judgement judgement = judge(names.theCase, blocks, averages, [](const Place&) {});
-  const std::vector<std::string> warnings =
+  const Judgement judgement = judgeInto(table, names, averages);
+  std::vector<std::string> warnings =
       allWarnings(names, receptors, groups, hours, averages, judgement);
-  reportJudgement(names, averages, judgement, list);
+  std::string where = table.name() + ", " + counted(table.rows(), "row");
+  if (!table.problem().empty()) {
+    warnings.push_back("No table of every exceedance was written: " + table.problem());
+    where.clear();
+  }
+  reportJudgement(names, averages, judgement, where, list);
   reportWarnings(warnings, list);
   reportMaxima(names, judgement, list);
   reportExceedances(names, averages, judgement, list);
@@ -108,7 +124,7 @@ void reportResults(const Names& names, const Receptors& receptors,
   reportLeftOut(names, judgement, list);
 }
 
-void compute(const Case& theCase, ListFile& list) {
+void compute(const Case& theCase, ExceedanceFile& table, ListFile& list) {
   const auto begin = Clock::now();
   Blocks blocks = planBlocks(theCase);
   const auto files = openGroups(theCase);
@@ -118,7 +134,7 @@ void compute(const Case& theCase, ListFile& list) {
   const std::vector<GroupSums> groups = readAll(theCase, files, blocks, receptors, list);
   blocks.hourCount = agreeOnClock(theCase, groups);
   const RunHours hours = agreeOnHours(theCase, blocks, groups);
-  reportResults({theCase, blocks, receptors.list}, receptors, groups, hours, list);
+  reportResults({theCase, blocks, receptors.list}, receptors, groups, hours, table, list);
   reportElapsed(begin, list);
 }
 
@@ -137,11 +153,14 @@ std::string sentenceOf(const Work& work) noexcept {
 
 Result runIntoListFile(const ControlText& text, const NativePath& controlFile, ListFile& list) {
   const std::string sentence = sentenceOf([&] {
+    const std::string tableFile = listFileOf(text) + ".csv";
+    ExceedanceFile table(tableFile, roleOf(tableFile, text, controlFile));
     reportTitle(list);
     const Case theCase = parseControl(text);
     reportCase(theCase, textFromPath(controlFile), list);
-    compute(theCase, list);
+    compute(theCase, table, list);
     list.complete();
+    table.keep();
   });
   if (sentence.empty()) return {};
   return {list.fail(sentence) ? Outcome::kFailed : Outcome::kNoListFile, sentence};

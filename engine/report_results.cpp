@@ -133,7 +133,7 @@ void reportAverages(const Case& theCase, const Blocks& blocks, const std::vector
 }
 
 void reportJudgement(const Names& names, const Averages& averages, const Judgement& judgement,
-                     ListFile& list) {
+                     const std::string& table, ListFile& list) {
   const Case& theCase = names.theCase;
   const Exceedances& exceedances = judgement.exceedances;
   list.line("JUDGEMENT");
@@ -149,6 +149,7 @@ void reportJudgement(const Names& names, const Averages& averages, const Judgeme
                                                 theCase.groups[1].name + " contributes " +
                                                 theCase.silText + " ug/m**3 or more)"));
   reportContribution(names, averages, judgement, list);
+  if (!table.empty()) list.line(fact("Every exceedance", table));
   list.line();
 }
 

@@ -36,8 +36,9 @@ void reportAverages(const Case& theCase, const Blocks& blocks, const std::vector
                     ListFile& list);
 
 /// The counts, and the number that the case rests on: the facility's largest contribution.
+/// `table` says where every exceedance is found; it may be empty.
 void reportJudgement(const Names& names, const Averages& averages, const Judgement& judgement,
-                     ListFile& list);
+                     const std::string& table, ListFile& list);
 void reportWarnings(const std::vector<std::string>& warnings, ListFile& list);
 void reportMaxima(const Names& names, const Judgement& judgement, ListFile& list);
 

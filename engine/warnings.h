@@ -6,13 +6,14 @@
 #include <vector>
 
 #include "engine/averages.h"
+#include "engine/concentration_file.h"
 #include "engine/judgement.h"
 #include "engine/report_results.h"
 
 namespace korventally::engine {
 
 /// Whole sentences, one string for each warning; none when nothing is conspicuous.
-std::vector<std::string> warningsOf(const Names& names, const Averages& averages,
-                                    const Judgement& judgement);
+std::vector<std::string> warningsOf(const Names& names, const std::vector<GroupSums>& groups,
+                                    const Averages& averages, const Judgement& judgement);
 
 }  // namespace korventally::engine

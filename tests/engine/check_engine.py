@@ -6,10 +6,12 @@ ENGINE is the program, or a command in front of it (wine path/to/korventally.exe
 
 Every study is computed here with exact fractions from the very texts that the files hold, then
 the engine's list file is read as a user would read it: maxima, counts, exceedances with their
-contributions, receptors, averages left out, warnings. Exit status 1 and the study's folder on a difference.
+contributions, receptors, averages left out, warnings; and the table of every exceedance beside it. Exit status 1 and the study's folder on a difference.
 """
 import argparse
+import csv
 import datetime
+import io
 import pathlib
 import random
 import re
@@ -323,6 +325,7 @@ def check_judgement(study, lines):
     tables = Tables(study, lines, exceeding, significant)
     tables.check()
     check_receptors(study, lines, exceeding, significant)
+    check_csv(study, exceeding)
 
 
 def check_largest(study, facts, text, exceeding, significant):
@@ -448,6 +451,20 @@ def check_ranked(study, lines):
     m = re.search(r"ranked list of receptors has other values .* at (\d+) of (\d+) receptor", text)
     need(bool(m) == (min(wrong) > 0), "ranked list")
     need(not m or (int(m[1]), int(m[2])) == (min(wrong), study.receptors), "receptors of the ranked list")
+
+
+def check_csv(study, exceeding):
+    data = (study.folder / "out.lst.csv").read_bytes().decode("ascii")
+    need(data.endswith("\r\n") and data.count("\n") == data.count("\r\n"), "line ends of the CSV")
+    rows = list(csv.reader(io.StringIO(data, newline="")))
+    need(rows[0] == ["Receptor ID", "X", "Y", "First hour", "Valid hours", "Total (ug/m**3)"]
+         + study.names[:study.groups], "header of the CSV")
+    need([(study.block_of(row[3]), int(row[0][1:]) - 1) for row in rows[1:]] == exceeding, "rows of the CSV")
+    for row, (b, r) in zip(rows[1:], exceeding):
+        need(int(row[4]) == study.valid[b], "hours in the CSV")
+        exact = [study.total[b][r]] + [study.own[g][b][r] for g in range(study.groups)]
+        for shown, value in zip(row[5:], exact, strict=True):
+            need(abs(Fraction(shown) - value) <= value / 10**11, "CSV: %s for %s" % (shown, float(value)))
 
 
 def check_misfit(study, lines):

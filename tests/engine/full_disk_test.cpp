@@ -57,5 +57,26 @@ TEST(FullDisk, NeverCompletesAndSaysSoWhereverTheSpaceEnds) {
   }
 }
 
+// The table of every exceedance is larger than the list file: there is room for this one alone.
+TEST(FullDisk, CostsTheTableOfExceedancesAndNotTheVerdict) {
+  Study study;
+  study.line(4) = "3000";
+  study.line(14) = "1";
+  for (const char* name : {"all.con", "group_2.con", "group_3.con"}) {
+    study.writeHours(name, std::vector<std::string>(3000, "1E-5 9E-6"));
+  }
+  study.writeControl();
+  for (const rlim_t bytes : {65536u, 65540u, 200000u}) {
+    {
+      const Limit limit(bytes);
+      EXPECT_EQ(runCase(study.path("korventally.inp")).outcome, Outcome::kCompleted);
+    }
+    expectSays(study.read("out.lst"),
+               {"No table of every exceedance was written: The",
+                "Exceedances:                  6,000 (", "\r\nRUN COMPLETED"});
+    EXPECT_FALSE(std::filesystem::exists(study.path("out.lst.csv")));
+  }
+}
+
 }  // namespace
 }  // namespace korventally::engine
