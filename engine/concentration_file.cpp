@@ -66,6 +66,8 @@ std::optional<DateFields> takeDate(std::string_view line) {
 
 // What the word in place of the values says; nothing when values stand there.
 std::optional<HourKind> markIn(std::string_view values) {
+  const std::size_t first = std::min(values.find_first_not_of(" \t,"), values.size());
+  if (first == values.size() || (values[first] != 'c' && values[first] != 'm')) return std::nullopt;
   Fields fields = Fields::continuing(values);
   std::string_view word;
   if (!fields.next(word)) return std::nullopt;

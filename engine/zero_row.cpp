@@ -9,23 +9,37 @@
 namespace korventally::engine {
 namespace {
 
-// Exponents may stand behind a sign alone: "0.123456-103".
+bool isSeparator(char c) { return c == ' ' || c == '\t' || c == ','; }
+
+// Plain loops: this is asked of every line of every file. An exponent may stand behind a sign
+// alone: "0.123456-103".
 bool isZero(std::string_view field) {
-  return field.substr(0, field.find_first_of("eE+-", 1)).find_first_of("123456789") == field.npos;
+  for (std::size_t i = 0; i < field.size(); ++i) {
+    const char c = field[i];
+    if (c >= '1' && c <= '9') return false;
+    if (c == 'E' || c == 'e' || (i > 0 && (c == '-' || c == '+'))) return true;
+  }
+  return true;
 }
 
 std::string_view lastField(std::string_view values) {
-  const std::size_t end = values.find_last_not_of(" \t") + 1;
-  values = values.substr(0, end);
-  return values.substr(values.find_last_of(" \t,") + 1);
+  std::size_t end = values.size();
+  while (end > 0 && isSeparator(values[end - 1])) --end;
+  std::size_t begin = end;
+  while (begin > 0 && !isSeparator(values[begin - 1])) --begin;
+  return values.substr(begin, end - begin);
 }
 
-// Passes over all that repeats `sample`: rows of zeros look alike from end to end.
-void skipRepeats(std::string_view sample, std::string_view& rest) {
-  const std::size_t size = sample.size();
-  while (rest.size() > size && std::memcmp(rest.data(), sample.data(), size) == 0 &&
-         (rest[size] == ' ' || rest[size] == '\t' || rest[size] == ',')) {
-    rest.remove_prefix(size);
+bool repeats(std::string_view rest, std::size_t size, std::size_t times) {
+  return rest.size() > size * (times + 1) &&
+         std::memcmp(rest.data(), rest.data() + size, size * times) == 0;
+}
+
+// Passes over what repeats the first `size` bytes of `rest`, which are a separator and a zero: rows
+// of zeros look alike over long stretches. The last of them is left for the next look.
+void skipRepeats(std::size_t size, std::string_view& rest) {
+  for (const std::size_t times : {32, 6, 1}) {
+    while (repeats(rest, size, times)) rest.remove_prefix(size * times);
   }
 }
 
@@ -39,11 +53,12 @@ bool isZeroRow(std::string_view values) {
     std::string_view field;
     if (!fields.next(field)) return true;
     if (!isZero(field)) return false;
-    // The separator in front belongs to what repeats.
-    const auto size = static_cast<std::size_t>(fields.rest().data() - rest.data());
-    const std::string_view sample = rest.substr(0, size);
-    rest = fields.rest();
-    skipRepeats(sample, rest);
+    skipRepeats(static_cast<std::size_t>(fields.rest().data() - rest.data()), rest);
+    // It may go on behind what repeats: " 0" is also the beginning of " 05".
+    Fields last = Fields::continuing(rest);
+    last.next(field);
+    if (!isZero(field)) return false;
+    rest = last.rest();
   }
 }
 
