@@ -5,6 +5,10 @@
 #include <string>
 #include <vector>
 
+#include "engine/blocks.h"
+#include "engine/calendar.h"
+#include "engine/concentration_file.h"
+#include "engine/control_file.h"
 #include "engine/fault.h"
 
 namespace korventally::engine {
@@ -61,7 +65,7 @@ std::vector<std::string> linesOfClock(const Blocks& blocks) {
   std::vector<std::string> lines = {"  Off the clock: the first average begins at hour " +
                                     hourText(blocks.start, blocks.hourCount) + "."};
   if (kDay % blocks.hours != 0 && blocks.hours % kDay != 0) {
-    lines.push_back("  Averages of so many hours do not fit into days.");
+    lines.emplace_back("  Averages of so many hours do not fit into days.");
     return lines;
   }
   const bool from1 = blocks.hourCount == HourCount::kFrom1To24;

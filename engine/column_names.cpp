@@ -8,6 +8,7 @@
 
 #include "engine/fault.h"
 #include "engine/fields.h"
+#include "engine/receptor_file.h"
 #include "engine/text.h"
 
 namespace korventally::engine {

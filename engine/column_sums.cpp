@@ -6,6 +6,9 @@
 #include <utility>
 #include <vector>
 
+#include "engine/blocks.h"
+#include "engine/calendar.h"
+
 namespace korventally::engine {
 namespace {
 

@@ -9,7 +9,10 @@
 #include <string>
 #include <vector>
 
+#include "engine/averages.h"
 #include "engine/columns.h"
+#include "engine/receptor_file.h"
+#include "engine/report_results.h"
 #include "engine/text.h"
 
 namespace korventally::engine {
@@ -42,6 +45,7 @@ std::vector<std::vector<RankedValue>> byReceptor(const Receptors& receptors) {
 
 std::vector<double> highest(const Averages& averages, std::size_t receptor, std::size_t count) {
   std::vector<double> values;
+  values.reserve(averages.blocks());
   for (std::size_t block = 0; block < averages.blocks(); ++block) {
     values.push_back(averages.own(0, block, receptor));
   }

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "engine/judgement.h"
+#include "engine/averages.h"
 #include "engine/receptor_file.h"
 #include "engine/report_results.h"
 

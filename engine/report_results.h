@@ -1,7 +1,6 @@
 // The results in the list file: files, averages, judgement, warnings, and the tables.
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>

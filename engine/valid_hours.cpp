@@ -6,7 +6,10 @@
 #include <string>
 #include <vector>
 
+#include "engine/blocks.h"
 #include "engine/calendar.h"
+#include "engine/concentration_file.h"
+#include "engine/control_file.h"
 #include "engine/fault.h"
 #include "engine/text.h"
 

@@ -5,7 +5,6 @@
 // average is divided by at least about three quarters of its hours.
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 #include <vector>
 
