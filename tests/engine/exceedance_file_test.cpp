@@ -116,12 +116,19 @@ TEST(ExceedanceFile, SaysInItsFirstLineUntilTheEndThatItIsUnfinished) {
   const std::string name = study.text(kTable);
   Case theCase;
   theCase.groups = {{"ALL", {}, 0}};
-  ExceedanceFile table(name, "");
-  table.begin(theCase);
-  EXPECT_EQ(study.read(kTable), std::string(kUnfinished) + ",ALL\r\n");
-  table.finish();
-  EXPECT_EQ(study.read(kTable), std::string(kMark) + ",ALL\r\n");
-  EXPECT_EQ(table.problem(), "");
+  for (const bool verdict : {false, true}) {
+    {
+      ExceedanceFile table(name, "");
+      table.begin(theCase);
+      EXPECT_EQ(study.read(kTable), std::string(kUnfinished) + ",ALL\r\n");
+      table.finish();
+      EXPECT_EQ(study.read(kTable), std::string(kMark) + ",ALL\r\n");
+      EXPECT_EQ(table.problem(), "");
+      if (verdict) table.keep();
+    }
+    // Without a verdict even a whole table goes.
+    EXPECT_EQ(std::filesystem::exists(study.path(kTable)), verdict);
+  }
 }
 
 }  // namespace

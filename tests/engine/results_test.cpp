@@ -83,6 +83,10 @@ TEST(Results, OfTwoReceptorsAndTwoBlocksByHand) {
        {"Averages judged:              2\r\n", "Exceedances:                  1 (",
         "3.0000 ug/m**3 of FACILITY at an exceedance, below 3.1: none is significant\r\n",
         "Rank 1 is excluded, but every receptor has one average only: nothing was left out"}},
+      {{{15, "8"}},
+       {"Largest contribution:         5.0000 ug/m**3 of FACILITY at an exceedance\r\n"
+        "    Where and when:             receptor B (X 300.5, Y -400.0), first hour 2009-01-01 "
+        "03"}},
       {{{15, "20"}},
        {"Largest contribution:         none: nothing exceeds\r\n",
         "EXCEEDANCES, the largest first\r\n  None.\r\n"}},

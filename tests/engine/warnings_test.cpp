@@ -84,6 +84,8 @@ TEST(Warnings, TellTheSlipFromWhatIsSound) {
       EXPECT_EQ(said, kNothing);
     } else {
       EXPECT_NE(said.find(row.says), said.npos) << said;
+      // No slip is taken for a wrong unit too.
+      EXPECT_EQ(said.find("g/m**3;") != said.npos, row.says.find("g/m**3;") != said.npos) << said;
     }
   }
 }
