@@ -69,7 +69,8 @@ std::string objectionToModelFile(const std::string& name, std::string_view begin
   if (!unformatted && !isHeader(beginning) && !isRow(line.substr(0, 1000))) return {};
   return "The file " + name + " is a dispersion model's own output, " +
          (unformatted ? "unformatted" : "formatted") +
-         ". Make concentration files and a receptor file of it with \"korventally import\".";
+         ". Concentration files and a receptor file have to be made of it first: see "
+         "docs/engine.md.";
 }
 
 }  // namespace korventally::engine

@@ -147,7 +147,7 @@ TEST(ModelFile, IsNamedForWhatItIsWithTheWayIn) {
   const std::string rows = formatted.substr(formatted.find("\n  ") + 1);
   const std::string binary = readTestData("unform/all.bin");
   const std::string way =
-      ". Make concentration files and a receptor file of it with \"korventally import\".";
+      ". Concentration files and a receptor file have to be made of it first: see docs/engine.md.";
   for (const char* name : {"group_2.con", "receptors.dat"}) {
     for (const std::string& bytes : {formatted, rows, binary, binary.substr(0, 40)}) {
       Study study;
