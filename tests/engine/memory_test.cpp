@@ -20,6 +20,11 @@ __attribute__((noinline)) void* operator new(std::size_t size) {
   return memory;
 }
 
+// What sorts in a buffer asks for it this way.
+__attribute__((noinline)) void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+  return size > largestAllowed ? nullptr : std::malloc(size == 0 ? 1 : size);
+}
+
 __attribute__((noinline)) void operator delete(void* memory) noexcept { std::free(memory); }
 void operator delete(void* memory, std::size_t) noexcept { operator delete(memory); }
 
