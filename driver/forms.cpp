@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "driver/input.h"
+#include "driver/landmarks.h"
 
 namespace korventally::driver {
 namespace {
@@ -16,7 +17,6 @@ namespace {
 constexpr int kTwipsPerInch = 1440;
 constexpr std::array kColumnTops = {120, 1080, 3120, 5880, 8520};
 constexpr int kColumnLeft = 11640;
-constexpr std::wstring_view kFirstFrame = L"WORKING DIRECTORY:";
 constexpr POINT kFirstFramePlace{120, 120};
 
 int dotsPerInch() {
@@ -113,7 +113,7 @@ HWND focusIn(HWND window) {
 
 /// Where the window's top left corner has been scrolled to; the wizard's first frame tells.
 POINT Form::origin() const {
-  HWND window = captionedFrame(window_, kFirstFrame);
+  HWND window = captionedFrame(window_, kOne);
   if (window == nullptr) return {0, 0};
   const RECT place = placeInParent(window);
   return {place.left - pixels(kFirstFramePlace.x), place.top - pixels(kFirstFramePlace.y)};

@@ -1,24 +1,10 @@
 #include <span>
-#include <string_view>
 
 #include "driver/forms.h"
+#include "driver/landmarks.h"
 
 namespace korventally::driver {
 namespace {
-
-constexpr std::wstring_view kButton = L"button";
-constexpr std::wstring_view kEdit = L"edit";
-constexpr std::wstring_view kLabel = L"static";
-
-constexpr std::wstring_view kOne = L"WORKING DIRECTORY:";
-constexpr std::wstring_view kTwo = L"SELECT THE TYPE";
-constexpr std::wstring_view kThree = L"INPUT INFO";
-constexpr std::wstring_view kFour = L"PROCESSING";
-constexpr std::wstring_view kFive = L"OUTPUT";
-constexpr std::wstring_view kReceptors = L"File with Receptors";
-constexpr std::wstring_view kTime = L"Start Time";
-constexpr std::wstring_view kRank = L"Rank 1";
-constexpr std::wstring_view kPeriod = L"AVERAGING";
 
 // clang-format off
 constexpr Sketch kWizardSketches[] = {

@@ -1,7 +1,6 @@
 #include "engine/blocks.h"
 
 #include <cstdint>
-#include <string>
 
 #include "engine/calendar.h"
 #include "engine/control_file.h"
@@ -13,10 +12,6 @@ namespace {
 
 constexpr std::int64_t kCommonYear = 8760;
 constexpr std::int64_t kLeapYear = 8784;
-
-std::string hoursText(std::int64_t hours) {
-  return counted(static_cast<std::uint64_t>(hours), "hour");
-}
 
 Blocks planAnnual(const Case& theCase) {
   const std::int64_t year = hoursOfYearFrom(theCase.start);

@@ -23,10 +23,6 @@
 namespace korventally::engine {
 namespace {
 
-std::string hoursText(std::int64_t hours) {
-  return counted(static_cast<std::uint64_t>(hours), "hour");
-}
-
 std::string averaged(const Blocks& blocks) {
   return counted(static_cast<std::uint64_t>(blocks.count), "average") + " of " +
          hoursText(blocks.hours) + ", " + blocks.nameOfHour(blocks.start) + " to " +

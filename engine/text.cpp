@@ -99,6 +99,10 @@ std::string grouped(std::uint64_t number) {
   return digits;
 }
 
+std::string hoursText(std::int64_t hours) {
+  return counted(static_cast<std::uint64_t>(hours), "hour");
+}
+
 std::string counted(std::uint64_t number, std::string_view noun) {
   return grouped(number) + " " + std::string(noun) + (number == 1 ? "" : "s");
 }

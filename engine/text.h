@@ -32,4 +32,7 @@ std::string grouped(std::uint64_t number);
 /// "1 hour", "2 hours": the number, and the noun with an "s" when it needs one.
 std::string counted(std::uint64_t number, std::string_view noun);
 
+/// "1 hour", "8,760 hours": a length of time, not below 0.
+std::string hoursText(std::int64_t hours);
+
 }  // namespace korventally::engine

@@ -47,10 +47,6 @@ std::string number(double value) {
   return text;
 }
 
-std::string hoursText(std::int64_t hours) {
-  return counted(static_cast<std::uint64_t>(hours), "hour");
-}
-
 // Blanks around a name and the case of its letters tell no two groups apart.
 std::string sameName(const std::string& name) {
   std::string key = name.substr(name.find_first_not_of(' '));

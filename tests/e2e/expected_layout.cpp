@@ -1,16 +1,9 @@
 #include "tests/e2e/expected_layout.h"
 
+#include "driver/landmarks.h"
+
 namespace korventally::driver {
 namespace {
-
-constexpr std::wstring_view kButton = L"button";
-constexpr std::wstring_view kLabel = L"static";
-constexpr std::wstring_view kTwo = L"SELECT THE TYPE";
-constexpr std::wstring_view kThree = L"INPUT INFO";
-constexpr std::wstring_view kFour = L"PROCESSING";
-constexpr std::wstring_view kFive = L"OUTPUT";
-constexpr std::wstring_view kReceptors = L"File with Receptors";
-constexpr std::wstring_view kTime = L"Start Time";
 
 // clang-format off
 constexpr Expected kControls[] = {
