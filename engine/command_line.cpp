@@ -1,9 +1,9 @@
 #include "engine/command_line.h"
 
-#include <cstdio>
 #include <string>
 #include <vector>
 
+#include "engine/console.h"
 #include "engine/engine.h"
 #include "engine/system_files.h"
 #include "engine/version.h"
@@ -11,22 +11,47 @@
 namespace korventally::engine {
 namespace {
 
-int showUsage() {
-  std::fprintf(stderr,
-               "%s, version %s\n"
-               "Usage: korventally CONTROL-FILE\n"
-               "Line 1 of the control file names the list file that receives the results.\n",
-               std::string(kTitle).c_str(), std::string(kVersion).c_str());
-  return static_cast<int>(Outcome::kNoListFile);
+std::string title() { return std::string(kTitle) + ", version " + std::string(kVersion); }
+
+std::string usage() {
+  return title() +
+         "\n\n"
+         "korventally CONTROL-FILE   computes a case; line 1 of the control file names the list\n"
+         "                           file that receives the results\n"
+         "korventally --version      says which version this is\n"
+         "korventally --help, /?     says this\n"
+         "\n"
+         "Exit codes: 0 the run completed, 1 it failed and the list file says why, 2 there is no\n"
+         "list file.";
+}
+
+int compute(const NativePath& controlFile, const Console& console) {
+  Watcher watcher;
+  watcher.read = [&](const std::string& line) { console.say(line); };
+  watcher.reading = [&](const std::string& line) { console.sayInPassing(line); };
+  const Result result = runCase(controlFile, watcher);
+  if (!result.sentence.empty()) console.complain("korventally: " + result.sentence);
+  console.say((result.outcome == Outcome::kCompleted ? "RUN COMPLETED" : "RUN FAILED") +
+              (result.listFile.empty() ? "" : ", see " + result.listFile));
+  return static_cast<int>(result.outcome);
 }
 
 }  // namespace
 
 int runCommandLine(const std::vector<NativePath>& arguments) {
-  if (arguments.size() != 2) return showUsage();
-  const Result result = runCase(arguments[1]);
-  if (!result.sentence.empty()) std::fprintf(stderr, "korventally: %s\n", result.sentence.c_str());
-  return static_cast<int>(result.outcome);
+  const Console console;
+  const std::string first = arguments.size() == 2 ? textFromPath(arguments[1]) : "";
+  if (first == "--help" || first == "/?") {
+    console.say(usage());
+    return 0;
+  }
+  if (first == "--version") {
+    console.say(title());
+    return 0;
+  }
+  if (arguments.size() == 2) return compute(arguments[1], console);
+  console.complain(usage());
+  return static_cast<int>(Outcome::kNoListFile);
 }
 
 }  // namespace korventally::engine

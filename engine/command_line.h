@@ -1,4 +1,4 @@
-// The command line: one argument, the control file.
+// The command line: a control file, or a question about the program.
 #pragma once
 
 #include <vector>
@@ -7,7 +7,8 @@
 
 namespace korventally::engine {
 
-/// Runs the engine on arguments[1] and returns the exit code; a fault also goes to standard error.
+/// Does what arguments[1] asks for and returns the exit code. A run says on standard output what it
+/// read and how it ended; a fault also goes to standard error.
 int runCommandLine(const std::vector<NativePath>& arguments);
 
 }  // namespace korventally::engine

@@ -57,11 +57,22 @@ std::vector<std::unique_ptr<InputFile>> openGroups(const Case& theCase) {
 
 std::vector<GroupSums> readAll(const Case& theCase,
                                const std::vector<std::unique_ptr<InputFile>>& files,
-                               const Blocks& blocks, const Receptors& receptors, ListFile& list) {
+                               const Blocks& blocks, const Receptors& receptors, ListFile& list,
+                               const Watcher& watcher) {
+  const auto finished = [&](std::size_t i, const GroupSums& sums) {
+    reportGroupFile(theCase.groups[i], sums, files[i]->modified(), list);
+    if (watcher.read) watcher.read(files[i]->name() + ": " + counted(sums.hours, "hour"));
+  };
+  Patience patience{{}, watcher.interval};
+  if (watcher.reading) {
+    patience.call = [&](std::size_t i) {
+      // One byte more than there is: no file is read before it is done.
+      const std::uint64_t percent = 100 * files[i]->bytesRead() / (files[i]->size() + 1);
+      watcher.reading(files[i]->name() + ": " + std::to_string(percent) + " %");
+    };
+  }
   try {
-    return readGroups(files, blocks, receptors, [&](std::size_t i, const GroupSums& sums) {
-      reportGroupFile(theCase.groups[i], sums, files[i]->modified(), list);
-    });
+    return readGroups(files, blocks, receptors, finished, patience);
   } catch (const std::bad_alloc&) {
     const auto averages =
         static_cast<std::uint64_t>(blocks.count) * receptors.list.size() * files.size();
@@ -124,14 +135,17 @@ void reportResults(const Names& names, const Receptors& receptors,
   reportLeftOut(names, judgement, list);
 }
 
-void compute(const Case& theCase, ExceedanceFile& table, ListFile& list) {
+void compute(const Case& theCase, ExceedanceFile& table, ListFile& list, const Watcher& watcher) {
   const auto begin = Clock::now();
   Blocks blocks = planBlocks(theCase);
   const auto files = openGroups(theCase);
   const auto receptorFile = openNamedFile(theCase.receptorFile, theCase.receptorLine);
   const Receptors receptors = readReceptors(*receptorFile, theCase.receptorFormat);
   reportReceptorFile(theCase, receptors, receptorFile->modified(), list);
-  const std::vector<GroupSums> groups = readAll(theCase, files, blocks, receptors, list);
+  if (watcher.read) {
+    watcher.read(receptorFile->name() + ": " + counted(receptors.list.size(), "receptor"));
+  }
+  const std::vector<GroupSums> groups = readAll(theCase, files, blocks, receptors, list, watcher);
   blocks.hourCount = agreeOnClock(theCase, groups);
   const RunHours hours = agreeOnHours(theCase, blocks, groups);
   reportResults({theCase, blocks, receptors.list}, receptors, groups, hours, table, list);
@@ -151,32 +165,34 @@ std::string sentenceOf(const Work& work) noexcept {
   }
 }
 
-Result runIntoListFile(const ControlText& text, const NativePath& controlFile, ListFile& list) {
+Result runIntoListFile(const ControlText& text, const NativePath& controlFile, ListFile& list,
+                       const Watcher& watcher) {
   const std::string sentence = sentenceOf([&] {
     const std::string tableFile = listFileOf(text) + ".csv";
     ExceedanceFile table(tableFile, roleOf(tableFile, text, controlFile));
     reportTitle(list);
     const Case theCase = parseControl(text);
     reportCase(theCase, textFromPath(controlFile), list);
-    compute(theCase, table, list);
+    compute(theCase, table, list, watcher);
     list.complete();
     table.keep();
   });
-  if (sentence.empty()) return {};
-  return {list.fail(sentence) ? Outcome::kFailed : Outcome::kNoListFile, sentence};
+  if (sentence.empty()) return {Outcome::kCompleted, "", listFileOf(text)};
+  if (!list.fail(sentence)) return {Outcome::kNoListFile, sentence, ""};
+  return {Outcome::kFailed, sentence, listFileOf(text)};
 }
 
 }  // namespace
 
-Result runCase(const NativePath& controlFile) noexcept {
+Result runCase(const NativePath& controlFile, const Watcher& watcher) noexcept {
   Result result;
   const std::string sentence = sentenceOf([&] {
     const ControlText text = readControlText(controlFile);
     refuseListFileAmongInputs(text, controlFile);
     ListFile list(pathFromText(listFileOf(text)));
-    result = runIntoListFile(text, controlFile, list);
+    result = runIntoListFile(text, controlFile, list, watcher);
   });
-  if (!sentence.empty()) result = {Outcome::kNoListFile, sentence};
+  if (!sentence.empty()) result = {Outcome::kNoListFile, sentence, ""};
   return result;
 }
 

@@ -1,6 +1,8 @@
 // One run of the engine, from the control file to the verdict in the list file.
 #pragma once
 
+#include <chrono>
+#include <functional>
 #include <string>
 
 #include "engine/system_files.h"
@@ -17,9 +19,19 @@ enum class Outcome {
 struct Result {
   Outcome outcome = Outcome::kCompleted;
   std::string sentence;  ///< what went wrong; empty for a completed run
+  std::string listFile;  ///< where the verdict stands; empty when there is none
+};
+
+/// Whoever watches a run. Both are called on the thread of the run and must not throw; none needs
+/// to be there.
+struct Watcher {
+  std::function<void(const std::string& line)> read;  ///< a file was read: its name and size
+  /// How far the file is that the run waits for, each time that it has waited so long again.
+  std::function<void(const std::string& line)> reading;
+  std::chrono::milliseconds interval{1000};
 };
 
 /// Never throws. Not reentrant: one run at a time in a process.
-Result runCase(const NativePath& controlFile) noexcept;
+Result runCase(const NativePath& controlFile, const Watcher& watcher = {}) noexcept;
 
 }  // namespace korventally::engine

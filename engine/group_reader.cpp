@@ -44,9 +44,14 @@ class Crew {
   }
 
   // Waits for this file; throws its fault.
-  const GroupSums& await(std::size_t index) {
+  const GroupSums& await(std::size_t index, const Patience& patience) {
     std::unique_lock lock(mutex_);
-    changed_.wait(lock, [&] { return finished_[index].done; });
+    while (!changed_.wait_for(lock, patience.interval, [&] { return finished_[index].done; })) {
+      if (!patience.call) continue;
+      lock.unlock();
+      patience.call(index);
+      lock.lock();
+    }
     if (finished_[index].fault) std::rethrow_exception(finished_[index].fault);
     return results_[index];
   }
@@ -104,9 +109,10 @@ class Crew {
 
 std::vector<GroupSums> readGroups(std::span<const std::unique_ptr<InputFile>> files,
                                   const Blocks& blocks, const Receptors& receptors,
-                                  const std::function<void(std::size_t, const GroupSums&)>& done) {
+                                  const std::function<void(std::size_t, const GroupSums&)>& done,
+                                  const Patience& patience) {
   Crew crew(files, blocks, receptors);
-  for (std::size_t i = 0; i < files.size(); ++i) done(i, crew.await(i));
+  for (std::size_t i = 0; i < files.size(); ++i) done(i, crew.await(i, patience));
   return crew.results();
 }
 

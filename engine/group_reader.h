@@ -1,6 +1,7 @@
 // Reads the concentration files of all groups, several at a time.
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <functional>
 #include <memory>
@@ -14,11 +15,19 @@
 
 namespace korventally::engine {
 
+/// Called on the calling thread for the file that readGroups() waits for, each time that the wait
+/// has lasted so long again.
+struct Patience {
+  std::function<void(std::size_t)> call;
+  std::chrono::milliseconds interval{1000};  ///< not below 0
+};
+
 /// One thread per processor, at most one per file. `done` is called on the calling thread, in the
 /// order of the files, once the sums of that file and of all before it are known. Of several
 /// faults the one of the first file is thrown, whichever thread met its fault first.
 std::vector<GroupSums> readGroups(std::span<const std::unique_ptr<InputFile>> files,
                                   const Blocks& blocks, const Receptors& receptors,
-                                  const std::function<void(std::size_t, const GroupSums&)>& done);
+                                  const std::function<void(std::size_t, const GroupSums&)>& done,
+                                  const Patience& patience = {});
 
 }  // namespace korventally::engine

@@ -95,8 +95,10 @@ InputFile::~InputFile() { ::close(descriptor(handle_)); }
 std::size_t InputFile::read(char* to, std::size_t size) {
   for (;;) {
     const ssize_t count = ::read(descriptor(handle_), to, size);
-    if (count >= 0) return static_cast<std::size_t>(count);
-    if (errno != EINTR) fail(path_, "read", errno);
+    if (count < 0 && errno == EINTR) continue;
+    if (count < 0) fail(path_, "read", errno);
+    bytesRead_ += static_cast<std::uint64_t>(count);
+    return static_cast<std::size_t>(count);
   }
 }
 

@@ -4,6 +4,7 @@
 // Every failure is a Fault whose sentence names the file and gives the system's reason and number.
 #pragma once
 
+#include <atomic>
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
@@ -44,6 +45,9 @@ class InputFile {
 
   std::uint64_t size() const { return size_; }
 
+  /// How much has been read so far; any thread may ask.
+  std::uint64_t bytesRead() const { return bytesRead_; }
+
   /// When it was last written, in seconds since 1970-01-01 00:00 UTC.
   std::int64_t modified() const { return modified_; }
 
@@ -62,6 +66,7 @@ class InputFile {
   std::intptr_t handle_ = -1;
   std::uint64_t size_ = 0;
   std::int64_t modified_ = 0;
+  std::atomic<std::uint64_t> bytesRead_ = 0;
 };
 
 /// Whether a file that exists already is emptied, or is a fault.

@@ -191,6 +191,7 @@ std::size_t InputFile::read(char* to, std::size_t size) {
   const auto wanted = static_cast<DWORD>(size < (1u << 30) ? size : (1u << 30));
   if (!ReadFile(asHandle(handle_), to, wanted, &count, nullptr))
     fail(path_, "read", GetLastError());
+  bytesRead_ += count;
   return count;
 }
 
