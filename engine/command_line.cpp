@@ -1,10 +1,14 @@
 #include "engine/command_line.h"
 
+#include <exception>
+#include <new>
 #include <string>
 #include <vector>
 
 #include "engine/console.h"
 #include "engine/engine.h"
+#include "engine/import/import.h"
+#include "engine/import/options.h"
 #include "engine/system_files.h"
 #include "engine/version.h"
 
@@ -17,12 +21,27 @@ std::string usage() {
   return title() +
          "\n\n"
          "korventally CONTROL-FILE   computes a case; line 1 of the control file names the list\n"
-         "                           file that receives the results\n"
+         "                           file that receives the results\n" +
+         std::string(kImportUsage) +
+         "\n"
          "korventally --version      says which version this is\n"
          "korventally --help, /?     says this\n"
          "\n"
          "Exit codes: 0 the run completed, 1 it failed and the list file says why, 2 there is no\n"
          "list file.";
+}
+
+int import(const std::vector<NativePath>& arguments, const Console& console) {
+  try {
+    const ImportOptions options = parseImportOptions(arguments);
+    console.say(importModel(options, [&](const std::string& line) { console.sayInPassing(line); }));
+    return 0;
+  } catch (const std::bad_alloc&) {
+    console.complain("korventally import: There is not enough memory.");
+  } catch (const std::exception& fault) {
+    console.complain("korventally import: " + std::string(fault.what()));
+  }
+  return 1;
 }
 
 int compute(const NativePath& controlFile, const Console& console) {
@@ -48,6 +67,9 @@ int runCommandLine(const std::vector<NativePath>& arguments) {
   if (first == "--version") {
     console.say(title());
     return 0;
+  }
+  if (arguments.size() > 2 && textFromPath(arguments[1]) == "import") {
+    return import({arguments.begin() + 2, arguments.end()}, console);
   }
   if (arguments.size() == 2) return compute(arguments[1], console);
   console.complain(usage());

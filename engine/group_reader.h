@@ -1,7 +1,6 @@
 // Reads the concentration files of all groups, several at a time.
 #pragma once
 
-#include <chrono>
 #include <cstddef>
 #include <functional>
 #include <memory>
@@ -10,21 +9,16 @@
 
 #include "engine/blocks.h"
 #include "engine/concentration_file.h"
+#include "engine/crew.h"
 #include "engine/receptor_file.h"
 #include "engine/system_files.h"
 
 namespace korventally::engine {
 
-/// Called on the calling thread for the file that readGroups() waits for, each time that the wait
-/// has lasted so long again.
-struct Patience {
-  std::function<void(std::size_t)> call;
-  std::chrono::milliseconds interval{1000};  ///< not below 0
-};
-
 /// One thread per processor, at most one per file. `done` is called on the calling thread, in the
 /// order of the files, once the sums of that file and of all before it are known. Of several
-/// faults the one of the first file is thrown, whichever thread met its fault first.
+/// faults the one of the first file is thrown, whichever thread met its fault first. `patience` is
+/// told the file that is waited for.
 std::vector<GroupSums> readGroups(std::span<const std::unique_ptr<InputFile>> files,
                                   const Blocks& blocks, const Receptors& receptors,
                                   const std::function<void(std::size_t, const GroupSums&)>& done,

@@ -29,17 +29,6 @@ bool isDate(std::uint32_t yymmddhh) {
          month <= 12;
 }
 
-// A record: its length, a date, the hours of the average, a name of eight characters, numbers of
-// eight bytes, its length again.
-bool isUnformatted(std::string_view bytes) {
-  constexpr std::size_t kHead = 16;
-  if (bytes.size() < 4 + kHead) return false;
-  const std::size_t length = numberAt(bytes, 0);
-  if (length <= kHead || length % 8 != 0 || !isDate(numberAt(bytes, 4))) return false;
-  const std::size_t second = 4 + length;
-  return second + 4 > bytes.size() || numberAt(bytes, second) == length;
-}
-
 bool isHeader(std::string_view bytes) {
   if (!bytes.starts_with('*')) return false;
   const std::string_view top = bytes.substr(0, 4096);
@@ -63,14 +52,24 @@ bool isRow(std::string_view line) {
 
 }  // namespace
 
+// A record: its length, a date, the hours of the average, a name of eight characters, numbers of
+// eight bytes, its length again.
+bool isUnformattedModelFile(std::string_view bytes) {
+  constexpr std::size_t kHead = 16;
+  if (bytes.size() < 4 + kHead) return false;
+  const std::size_t length = numberAt(bytes, 0);
+  if (length <= kHead || length % 8 != 0 || !isDate(numberAt(bytes, 4))) return false;
+  const std::size_t second = 4 + length;
+  return second + 4 > bytes.size() || numberAt(bytes, second) == length;
+}
+
 std::string objectionToModelFile(const std::string& name, std::string_view beginning) {
-  const bool unformatted = isUnformatted(beginning);
+  const bool unformatted = isUnformattedModelFile(beginning);
   const std::string_view line = beginning.substr(0, beginning.find_first_of("\r\n"));
   if (!unformatted && !isHeader(beginning) && !isRow(line.substr(0, 1000))) return {};
   return "The file " + name + " is a dispersion model's own output, " +
          (unformatted ? "unformatted" : "formatted") +
-         ". Concentration files and a receptor file have to be made of it first: see "
-         "docs/engine.md.";
+         ". Make a case of the model's files first: korventally import.";
 }
 
 }  // namespace korventally::engine

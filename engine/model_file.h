@@ -6,6 +6,10 @@
 
 namespace korventally::engine {
 
+/// True when a file that begins with these bytes is a model's unformatted output: a record with a
+/// length, a date and eight bytes for each value.
+bool isUnformattedModelFile(std::string_view beginning);
+
 /// Sentences on a file that begins with these bytes and is a model's own, formatted (with or
 /// without its header) or not; they name the way in. Empty for all other files. `name` is the
 /// file's.

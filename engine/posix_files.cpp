@@ -76,6 +76,26 @@ void deleteFile(const NativePath& path) {
   if (::unlink(path.c_str()) != 0) fail(path, "deleted", errno);
 }
 
+bool fileExists(const NativePath& path) {
+  struct stat state;
+  return ::lstat(path.c_str(), &state) == 0;
+}
+
+void moveFile(const NativePath& from, const NativePath& to) {
+  if (::rename(from.c_str(), to.c_str()) != 0) fail(to, "replaced", errno);
+}
+
+bool makeFolder(const NativePath& path) {
+  if (::mkdir(path.c_str(), 0777) == 0) return true;
+  const int error = errno;
+  struct stat state;
+  if (::stat(path.c_str(), &state) != 0 || !S_ISDIR(state.st_mode))
+    fail(path, "made a folder", error);
+  return false;
+}
+
+void removeEmptyFolder(const NativePath& path) { ::rmdir(path.c_str()); }
+
 InputFile::InputFile(const NativePath& path) : path_(path) {
   const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
   if (descriptor < 0) fail(path_, "opened", errno);

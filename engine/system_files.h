@@ -34,6 +34,18 @@ std::int64_t localOffsetAt(std::int64_t seconds);
 /// Deletes the file. Throws Fault when there is none or it cannot be deleted.
 void deleteFile(const NativePath& path);
 
+/// True when there is a file or a folder of that name.
+bool fileExists(const NativePath& path);
+
+/// Gives the file its new name, in place of a file that had it. Throws Fault.
+void moveFile(const NativePath& from, const NativePath& to);
+
+/// Makes the folder and returns true, or returns false when it is there already. Throws Fault.
+bool makeFolder(const NativePath& path);
+
+/// Deletes the folder if it is empty.
+void removeEmptyFolder(const NativePath& path);
+
 /// A file open for reading from front to back. Others may read, write and delete it meanwhile.
 /// Only ordinary files: folders, devices and pipes are refused.
 class InputFile {

@@ -168,6 +168,28 @@ void deleteFile(const NativePath& path) {
   if (!DeleteFileW(fullPath(path).c_str())) fail(path, "deleted", GetLastError());
 }
 
+bool fileExists(const NativePath& path) {
+  return GetFileAttributesW(fullPath(path).c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
+void moveFile(const NativePath& from, const NativePath& to) {
+  if (!MoveFileExW(fullPath(from).c_str(), fullPath(to).c_str(), MOVEFILE_REPLACE_EXISTING)) {
+    fail(to, "replaced", GetLastError());
+  }
+}
+
+bool makeFolder(const NativePath& path) {
+  if (CreateDirectoryW(fullPath(path).c_str(), nullptr)) return true;
+  const DWORD error = GetLastError();
+  const DWORD attributes = GetFileAttributesW(fullPath(path).c_str());
+  const bool isFolder =
+      attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+  if (!isFolder) fail(path, "made a folder", error);
+  return false;
+}
+
+void removeEmptyFolder(const NativePath& path) { RemoveDirectoryW(fullPath(path).c_str()); }
+
 InputFile::InputFile(const NativePath& path) : path_(path) {
   const HANDLE handle = open(path, GENERIC_READ, OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN);
   if (handle == INVALID_HANDLE_VALUE) fail(path_, "opened", GetLastError());

@@ -74,6 +74,21 @@ TEST(CommandLine, SaysWhatItReadAndHowItEnded) {
   EXPECT_EQ(said.output, "RUN FAILED\n");
 }
 
+TEST(CommandLine, ImportsAModelsFiles) {
+  const Study study;
+  const std::string file = " \"" + std::string(KORVENTALLY_TEST_DATA) + "/plot/all.pst\"";
+  Said said = start(study, "import --out \"" + study.text("case") + "\"" + file);
+  EXPECT_EQ(said.exitCode, 0);
+  EXPECT_EQ(said.error, "");
+  std::string report = study.read("case/import.txt");
+  std::erase(report, '\r');
+  EXPECT_EQ(said.output, report + "\n");
+  said = start(study, "import" + file + file);
+  EXPECT_EQ(said.exitCode, 1);
+  EXPECT_EQ(said.output, "");
+  EXPECT_EQ(said.error.find("korventally import: --out FOLDER is missing"), 0u);
+}
+
 #ifndef _WIN32
 // A file that is opened next gets the number of what is closed, and must not get its lines.
 TEST(CommandLine, KeepsItsLinesOutOfTheListFileWhenNothingIsOpen) {

@@ -146,8 +146,7 @@ TEST(ModelFile, IsNamedForWhatItIsWithTheWayIn) {
   const std::string formatted = readTestData("plot/all.pst");
   const std::string rows = formatted.substr(formatted.find("\n  ") + 1);
   const std::string binary = readTestData("unform/all.bin");
-  const std::string way =
-      ". Concentration files and a receptor file have to be made of it first: see docs/engine.md.";
+  const std::string way = ". Make a case of the model's files first: korventally import.";
   for (const char* name : {"group_2.con", "receptors.dat"}) {
     for (const std::string& bytes : {formatted, rows, binary, binary.substr(0, 40)}) {
       Study study;

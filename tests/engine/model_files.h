@@ -15,10 +15,10 @@ struct ModelRow {
   Hour hour = 0;  ///< not set for an average over the whole run
 };
 
-/// The bytes of a file below tests/engine/data.
+/// The bytes of a file below samples/dispersion.
 std::string readTestData(const std::string& name);
 
-/// The rows of a file below tests/engine/data.
+/// The rows of a file below samples/dispersion.
 std::vector<ModelRow> readModelRows(const std::string& name);
 
 /// The hours that the model's message file calls calm or missing.

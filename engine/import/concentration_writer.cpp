@@ -1,0 +1,123 @@
+#include "engine/import/concentration_writer.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "engine/columns.h"
+#include "engine/concentration_file.h"
+#include "engine/import/imported_study.h"
+#include "engine/import/output_folder.h"
+#include "engine/import/series.h"
+#include "engine/system_files.h"
+
+namespace korventally::engine {
+namespace {
+
+constexpr std::size_t kBuffer = 1024 * std::size_t{1024};
+constexpr std::size_t kNamesInLine = 16;
+
+std::string markText(Hour hour, HourKind kind) {
+  return concentrationDate(hour) + (kind == HourKind::kCalm ? " calm\n" : " missing\n");
+}
+
+// A piece of a part file and what stands there instead.
+struct Cut {
+  std::uint64_t begin = 0;
+  std::uint64_t end = 0;
+  std::string instead;
+};
+
+std::vector<Cut> cutsOf(const ImportedStudy& study, const SeriesFacts& series) {
+  std::vector<Cut> cuts = {{0, series.begin, ""}};
+  for (const ZeroHour& zero : series.zeroHours) {
+    const auto mark = study.marks.find(zero.hour);
+    if (mark == study.marks.end()) continue;
+    cuts.push_back({zero.begin, zero.end, markText(mark->first, mark->second)});
+  }
+  return cuts;
+}
+
+// Copies a file block by block, with other text in place of the cuts.
+class Copier {
+ public:
+  Copier(const NativePath& from, std::vector<Cut> cuts, OutputFile& to)
+      : from_(from), cuts_(std::move(cuts)), to_(to) {}
+
+  void copy() {
+    std::string block(kBuffer, '\0');
+    for (std::size_t size = 0; (size = from_.read(block.data(), block.size())) > 0;) {
+      take(std::string_view(block).substr(0, size));
+    }
+    to_.append(out_);
+  }
+
+ private:
+  void take(std::string_view block) {
+    const std::uint64_t end = place_ + block.size();
+    while (next_ < cuts_.size() && cuts_[next_].begin < end) {
+      const Cut& cut = cuts_[next_];
+      if (place_ < cut.begin) pass(block, cut.begin - place_);
+      if (place_ == cut.begin) out_ += cut.instead;
+      skip(block, std::min(cut.end, end) - place_);
+      if (cut.end > end) return;
+      ++next_;
+    }
+    pass(block, block.size());
+    if (out_.size() < kBuffer) return;
+    to_.append(out_);
+    out_.clear();
+  }
+
+  void pass(std::string_view& block, std::uint64_t size) {
+    out_ += block.substr(0, size);
+    skip(block, size);
+  }
+
+  void skip(std::string_view& block, std::uint64_t size) {
+    block.remove_prefix(size);
+    place_ += size;
+  }
+
+  InputFile from_;
+  std::vector<Cut> cuts_;
+  OutputFile& to_;
+  std::size_t next_ = 0;
+  std::uint64_t place_ = 0;
+  std::string out_;
+};
+
+std::string headerOf(const ImportedStudy& study, const ImportedGroup& group) {
+  std::string text =
+      std::string(kImportMark) + ": group " + group.name + ", g/m**3, hours counted 1 to 24\n";
+  for (std::size_t i = 0; i < study.receptors.size(); ++i) {
+    text += i % kNamesInLine == 0 ? (i == 0 ? "# receptors: " : "\n# receptors: ") : " ";
+    text += study.receptors[i];
+  }
+  return text + "\n";
+}
+
+}  // namespace
+
+void writeConcentrations(const ImportedStudy& study, const ImportedGroup& group,
+                         const NativePath& part) {
+  OutputFile file(part, Creation::kNew);
+  file.append(headerOf(study, group));
+  for (const SeriesFacts* series : group.series) {
+    Copier(series->part, cutsOf(study, *series), file).copy();
+  }
+}
+
+std::string receptorFileText(const ImportedStudy& study) {
+  std::string text = std::string(kImportMark) + ": X (m), Y (m), ID\n";
+  for (std::size_t i = 0; i < study.places.size(); ++i) {
+    const ModelPlace& place = study.places[i];
+    text += right(place.x, 13) + " " + right(place.y, 13) + "  " + study.receptors[i] + "\n";
+  }
+  return text;
+}
+
+}  // namespace korventally::engine

@@ -1,0 +1,220 @@
+#include <cstddef>
+#include <cstring>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "engine/calendar.h"
+#include "engine/fault.h"
+#include "engine/import/model_data.h"
+#include "engine/import/model_header.h"
+#include "engine/import/model_value.h"
+#include "engine/import/row_layout.h"
+#include "engine/import/series.h"
+#include "engine/import/series_set.h"
+#include "engine/line_reader.h"
+#include "engine/system_files.h"
+#include "engine/text.h"
+
+namespace korventally::engine {
+namespace {
+
+constexpr std::size_t kLongestLine = 1000;
+
+// Whether a value is zero, whatever else may be wrong with it.
+bool isZero(std::string_view field) {
+  const std::string_view mantissa = field.substr(0, field.find('E'));
+  return mantissa.find_first_not_of(" -+.0") == mantissa.npos;
+}
+
+// Rows come in blocks: one hour, or another average, of one group at all receptors. The first block
+// tells how many receptors there are and where; all others must repeat it.
+class FormattedReader {
+ public:
+  FormattedReader(InputFile& file, const Reading& reading)
+      : file_(file), lines_(file, kLongestLine), reading_(reading), series_(file, reading) {}
+
+  ModelData read() {
+    std::string_view line;
+    while (lines_.next(line)) take(line);
+    endBlock();
+    refuseIncomplete();
+    return series_.finish(std::move(data_));
+  }
+
+ private:
+  void take(std::string_view line) {
+    if (line.starts_with('*')) {
+      endBlock();
+      header_.take(line);
+    } else {
+      takeRow(line);
+    }
+  }
+
+  void takeRow(std::string_view row) {
+    if (!layout_) learnLayout(row);
+    if (row.size() < layout_->shortest()) refuse(" is cut short or no row of the model.");
+    const std::string_view key = layout_->key(row);
+    if (key_ != key || row_ == count_) beginBlock(key);
+    if (count_ == 0) {
+      learnPlace(row);
+    } else if (!isAtPlace(row)) {
+      refusePlace(row);
+    }
+    if (current_ != nullptr) {
+      addValue(RowLayout::value(row));
+    } else if (series_.isWitness()) {
+      hasValue_ = hasValue_ || !isZero(RowLayout::value(row));
+    }
+    ++row_;
+  }
+
+  void learnLayout(std::string_view row) {
+    layout_ = RowLayout::of(row);
+    const std::string objection = header_.objection(layout_ ? layout_->values() : 1);
+    if (!objection.empty()) throw Fault("The file " + file_.name() + objection);
+    if (!layout_) {
+      refuse(" is no row of a dispersion model's hourly output (a POSTFILE of 1-hour averages).");
+    }
+    data_.firstRow = lines_.lineNumber();
+  }
+
+  void beginBlock(std::string_view key) {
+    endBlock();
+    if (reading_.mayGiveUp()) throw Fault("Given up.");
+    key_ = key;
+    row_ = 0;
+    current_ = series_.choose(RowLayout::average(key), RowLayout::group(key), lines_.lineNumber());
+    hasValue_ = false;
+    if (current_ == nullptr) return;
+    const std::string objection = current_->begin(hourOf(key));
+    if (!objection.empty()) refuse(objection);
+  }
+
+  Hour hourOf(std::string_view key) const {
+    const std::string_view date = RowLayout::date(key);
+    const auto number = parseWhole(date);
+    const std::optional<Hour> hour = number ? hourOfModel(*number) : std::nullopt;
+    if (!hour) refuse(": " + inQuotes(date) + " is no hour (YYMMDDHH, HH from 01 to 24).");
+    return *hour;
+  }
+
+  void endBlock() {
+    if (key_.empty()) return;
+    if (count_ == 0) count_ = row_;
+    if (row_ != count_) refuseRowCount();
+    if (current_ != nullptr) {
+      current_->endHour();
+    } else {
+      series_.leaveOut(row_);
+      if (hasValue_) series_.hasValues(hourOf(key_));
+    }
+    key_.clear();
+    current_ = nullptr;
+  }
+
+  void learnPlace(std::string_view row) {
+    data_.places.push_back({std::string(withoutBlanks(RowLayout::x(row))),
+                            std::string(withoutBlanks(RowLayout::y(row))),
+                            std::string(withoutBlanks(layout_->network(row)))});
+    const ModelPlace& place = data_.places.back();
+    for (const std::string* number : {&place.x, &place.y}) {
+      if (number->find('*') == number->npos) continue;
+      const std::size_t column = number == &place.x ? 2 : 16;
+      refuse(", column " + std::to_string(column) +
+             " has stars in place of a coordinate: it did not fit there. Let the model run with "
+             "smaller coordinates.");
+    }
+    known_.emplace_back(RowLayout::place(row));
+    known_.back() += layout_->heights(row);
+  }
+
+  bool isAtPlace(std::string_view row) const {
+    const std::string& known = known_[row_];
+    const std::string_view place = RowLayout::place(row), heights = layout_->heights(row);
+    return std::memcmp(known.data(), place.data(), place.size()) == 0 &&
+           std::memcmp(known.data() + place.size(), heights.data(), heights.size()) == 0 &&
+           withoutBlanks(layout_->network(row)) == data_.places[row_].network;
+  }
+
+  void addValue(std::string_view field) {
+    switch (current_->add(field)) {
+      case ValueFault::kNone:
+        return;
+      case ValueFault::kStars:
+        refuseValue(
+            " has stars in place of a value: it did not fit there. Let the model write it "
+            "with FILEFORM EXP.");
+      case ValueFault::kNegative:
+        refuseValue(": the value " + std::string(withoutBlanks(field)) +
+                    " is negative, an increment credit. Leave such sources out of the model's "
+                    "groups: concentrations below zero are not judged.");
+      case ValueFault::kNoNumber:
+        refuseValue(": " + inQuotes(withoutBlanks(field)) + " is no number.");
+    }
+  }
+
+  [[noreturn]] void refuse(const std::string& what) const {
+    throw Fault(file_.named(lines_.lineNumber()) + what);
+  }
+
+  [[noreturn]] void refuseValue(const std::string& what) const {
+    refuse(", column " + std::to_string(RowLayout::kValueColumn) + what);
+  }
+
+  [[noreturn]] void refusePlace(std::string_view row) const {
+    const ModelPlace& place = data_.places[row_];
+    const std::string number = std::to_string(row_ + 1);
+    const std::string known = place.x + ", " + place.y + " " + place.network;
+    const std::string here = std::string(withoutBlanks(RowLayout::x(row))) + ", " +
+                             std::string(withoutBlanks(RowLayout::y(row))) + " " +
+                             std::string(withoutBlanks(layout_->network(row)));
+    if (known == here) {
+      refuse(" gives receptor " + number + " other heights than line " +
+             std::to_string(data_.firstRow + row_) + " does.");
+    }
+    refuse(" has receptor " + number + " at " + here + ", but line " +
+           std::to_string(data_.firstRow + row_) + " has it at " + known +
+           ". Every hour must hold the same receptors in the same order.");
+  }
+
+  [[noreturn]] void refuseRowCount() const {
+    refuse(": " + counted(row_, "row") + " of " + std::string(RowLayout::group(key_)) + " " +
+           std::string(RowLayout::date(key_)) + " instead of " + std::to_string(count_) +
+           ", one for each receptor. Was the file cut short?");
+  }
+
+  void refuseIncomplete() const {
+    if (!layout_) {
+      throw Fault("The file " + file_.name() +
+                  (header_.any() ? " has a header and no rows: did the model's run end early?"
+                                 : " is empty."));
+    }
+    if (!lines_.complete()) refuse(" has no line end: the file was cut short.");
+  }
+
+  InputFile& file_;
+  LineReader lines_;
+  const Reading& reading_;
+  ModelHeader header_;
+  std::optional<RowLayout> layout_;
+  ModelData data_;
+  std::vector<std::string> known_;  // place and heights of each receptor, as they stand in a row
+  SeriesSet series_;
+  std::string key_;            // of the block; empty between blocks
+  Series* current_ = nullptr;  // where its values go; none when they are left out
+  bool hasValue_ = false;      // one that is left out was not zero
+  std::size_t row_ = 0;        // in the block
+  std::size_t count_ = 0;      // of rows in a block; 0 within the first
+};
+
+}  // namespace
+
+ModelData readFormatted(InputFile& file, const Reading& reading) {
+  return FormattedReader(file, reading).read();
+}
+
+}  // namespace korventally::engine

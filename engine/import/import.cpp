@@ -1,0 +1,141 @@
+#include "engine/import/import.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <system_error>
+#include <utility>
+#include <vector>
+
+#include "engine/crew.h"
+#include "engine/fault.h"
+#include "engine/file_beginning.h"
+#include "engine/import/calm_hours.h"
+#include "engine/import/case_file.h"
+#include "engine/import/concentration_writer.h"
+#include "engine/import/import_report.h"
+#include "engine/import/imported_receptors.h"
+#include "engine/import/imported_study.h"
+#include "engine/import/model_data.h"
+#include "engine/import/options.h"
+#include "engine/import/output_folder.h"
+#include "engine/model_file.h"
+#include "engine/system_files.h"
+
+namespace korventally::engine {
+namespace {
+
+NativePath fullName(const NativePath& path) {
+  std::error_code error;
+  NativePath full = std::filesystem::absolute(path, error);
+  if (error) throw Fault("The folder " + textFromPath(path) + " has no full name.");
+  full = full.lexically_normal();
+  return full.has_filename() ? full : full.parent_path();
+}
+
+class Import {
+ public:
+  Import(const ImportOptions& options, const std::function<void(const std::string&)>& progress)
+      : options_(options), progress_(progress), folder_(fullName(options.folder)), out_(folder_) {}
+
+  std::string run() {
+    readFiles();
+    putGroupsTogether(study_, options_);
+    std::optional<CalmHours> calms;
+    if (options_.calms) {
+      InputFile file(*options_.calms);
+      calms = readCalmHours(file);
+    }
+    judgeZeroHours(study_, options_, calms ? &*calms : nullptr);
+    return write();
+  }
+
+ private:
+  void readFiles() {
+    std::vector<std::size_t> formatted, unformatted;
+    for (std::size_t i = 0; i < options_.files.size(); ++i) {
+      files_.push_back(std::make_unique<InputFile>(options_.files[i]));
+      const bool isRecords = isUnformattedModelFile(beginningOf(options_.files[i]));
+      (isRecords ? unformatted : formatted).push_back(i);
+    }
+    study_.files.resize(files_.size());
+    readSideBySide(formatted, readFormatted);
+    agreeOnReceptors(study_, options_);
+    if (unformatted.empty()) return;
+    requireReceptors(study_, textFromPath(options_.files[unformatted.front()]));
+    const std::size_t receptors = study_.places.size();
+    readSideBySide(unformatted, [receptors](InputFile& file, const Reading& reading) {
+      return readUnformatted(file, reading, receptors);
+    });
+  }
+
+  void readSideBySide(const std::vector<std::size_t>& which,
+                      const std::function<ModelData(InputFile&, const Reading&)>& read) {
+    Crew crew(which.size(), [&](std::size_t i, const Crew& all) {
+      const Reading reading{options_.unit,
+                            [&](std::string_view group) { return options_.wants(group); },
+                            [&] { return out_.newPart(); }, [&] { return all.mayGiveUp(i); }};
+      study_.files[which[i]] = read(*files_[which[i]], reading);
+    });
+    for (std::size_t i = 0; i < which.size(); ++i) crew.await(i, patience());
+  }
+
+  Patience patience() const {
+    return {[this](std::size_t) {
+      std::uint64_t read = 0, size = 1;  // never all of it before the end
+      for (const auto& file : files_) {
+        read += file->bytesRead();
+        size += file->size();
+      }
+      progress_("Reading: " + std::to_string(100 * read / size) + " %");
+    }};
+  }
+
+  std::string write() {
+    const std::vector<std::string> names = concentrationFileNames(study_);
+    for (const std::string& name : names) out_.claim(name);
+    std::vector<NativePath> parts;
+    for (std::size_t i = 0; i < names.size(); ++i) parts.push_back(out_.newPart());
+    Crew crew(names.size(), [&](std::size_t i, const Crew&) {
+      writeConcentrations(study_, study_.groups[i], parts[i]);
+    });
+    for (std::size_t i = 0; i < names.size(); ++i) {
+      crew.await(i);
+      out_.add(parts[i], names[i]);
+    }
+    out_.add(out_.write(receptorFileText(study_)), std::string(kImportReceptors));
+    std::string sum;
+    if (study_.isCase()) sum = addCase();
+    const std::string report = importReport(study_, options_.unit, folder_, sum);
+    out_.add(out_.write(report), std::string(kImportReport));
+    out_.commit();
+    return report;
+  }
+
+  std::string addCase() {
+    const std::string text = caseText(study_, folder_);
+    out_.add(out_.write(text), std::string(kImportCase));
+    return checksum(text);
+  }
+
+  const ImportOptions& options_;
+  const std::function<void(const std::string&)>& progress_;
+  const NativePath folder_;
+  OutputFolder out_;
+  std::vector<std::unique_ptr<InputFile>> files_;
+  ImportedStudy study_;
+};
+
+}  // namespace
+
+std::string importModel(const ImportOptions& options,
+                        const std::function<void(const std::string&)>& progress) {
+  return Import(options, progress).run();
+}
+
+}  // namespace korventally::engine

@@ -1,0 +1,100 @@
+#include "engine/import/model_value.h"
+
+#include <charconv>
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "engine/import/row_layout.h"
+#include "engine/text.h"
+
+namespace korventally::engine {
+namespace {
+
+constexpr std::size_t kWidth = 13;  // of F13.5
+constexpr std::size_t kPoint = 7;
+
+bool isDigit(char c) { return c >= '0' && c <= '9'; }
+
+// The digits of "   1398.53468" as a whole number and where they begin; -1 for any other form.
+std::int64_t digitsOfFixed(std::string_view field, std::size_t& first) {
+  if (field.size() != kWidth || field[kPoint] != '.') return -1;
+  std::size_t at = 0;
+  while (at < kPoint && field[at] == ' ') ++at;
+  first = at;
+  if (at == kPoint) return -1;
+  std::int64_t digits = 0;
+  bool clean = true;
+  for (; at < kWidth; ++at) {
+    if (at == kPoint) continue;
+    clean = clean && isDigit(field[at]);
+    digits = digits * 10 + (field[at] - '0');
+  }
+  return clean ? digits : -1;
+}
+
+// Where the exponent of a number begins, with its letter or its sign; npos without one.
+std::size_t exponentOf(std::string_view number) {
+  const std::size_t letter = number.find_first_of("Ee");
+  return letter != number.npos ? letter : number.find_first_of("+-", 1);
+}
+
+// "E-06"; at least two digits, as everyone else writes it.
+std::string exponentText(int exponent) {
+  const std::string digits = std::to_string(std::abs(exponent));
+  return std::string(exponent < 0 ? "E-" : "E+") + (digits.size() < 2 ? "0" : "") + digits;
+}
+
+void append(std::string_view number, ValueUnit unit, std::string& line) {
+  line += ' ';
+  if (unit == ValueUnit::kGrams) {
+    line += number;
+    return;
+  }
+  const std::size_t place = exponentOf(number);
+  line += number.substr(0, place);
+  int exponent = 0;
+  if (place != number.npos) {
+    const std::size_t digits = number.find_first_not_of("Ee+", place);
+    std::from_chars(number.data() + digits, number.data() + number.size(), exponent);
+  }
+  line += exponentText(exponent - 6);
+}
+
+}  // namespace
+
+ValueFault copyValue(std::string_view field, ValueUnit unit, std::string& line, double& number) {
+  std::size_t first = 0;
+  const std::int64_t digits = digitsOfFixed(field, first);
+  if (digits >= 0) {
+    line += ' ';
+    line += field.substr(first);
+    if (unit == ValueUnit::kMicrograms) line += "E-06";
+    number = static_cast<double>(digits) / 1e5;
+    return ValueFault::kNone;
+  }
+  std::string_view text = withoutBlanks(field);
+  if (text.find('*') != text.npos) return ValueFault::kStars;
+  const std::optional<double> value = parseModelNumber(text);
+  if (!value) return ValueFault::kNoNumber;
+  if (*value < 0) return ValueFault::kNegative;
+  if (text.starts_with('-')) text.remove_prefix(1);
+  append(text, unit, line);
+  number = std::abs(*value);
+  return ValueFault::kNone;
+}
+
+ValueFault copyValue(double value, ValueUnit unit, std::string& line) {
+  if (!std::isfinite(value)) return ValueFault::kNoNumber;
+  if (value < 0) return ValueFault::kNegative;
+  char text[32];
+  const auto end =
+      std::to_chars(text, text + sizeof text, std::abs(value), std::chars_format::scientific);
+  append({text, static_cast<std::size_t>(end.ptr - text)}, unit, line);
+  return ValueFault::kNone;
+}
+
+}  // namespace korventally::engine

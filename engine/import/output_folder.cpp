@@ -1,0 +1,89 @@
+#include "engine/import/output_folder.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <mutex>
+#include <string>
+#include <string_view>
+
+#include "engine/fault.h"
+#include "engine/file_beginning.h"
+#include "engine/import/case_file.h"
+#include "engine/system_files.h"
+
+namespace korventally::engine {
+namespace {
+
+constexpr std::size_t kLongestReport = 64 * std::size_t{1024};
+
+}  // namespace
+
+std::string checksum(std::string_view content) {
+  std::uint64_t sum = 14695981039346656037u;  // FNV-1a
+  for (const char c : content) sum = (sum ^ static_cast<unsigned char>(c)) * 1099511628211u;
+  char text[17];
+  std::snprintf(text, sizeof text, "%016llx", static_cast<unsigned long long>(sum));
+  return text;
+}
+
+OutputFolder::OutputFolder(const NativePath& path) : path_(path), made_(makeFolder(path)) {}
+
+OutputFolder::~OutputFolder() {
+  for (const NativePath& part : parts_) {
+    try {
+      if (fileExists(part)) deleteFile(part);
+    } catch (const Fault&) {
+      // It begins with the mark: the next import deletes it.
+    }
+  }
+  if (made_ && !committed_) removeEmptyFolder(path_);
+}
+
+NativePath OutputFolder::newPart() {
+  const std::lock_guard lock(mutex_);
+  for (;;) {
+    NativePath part = path_ / ("import_" + std::to_string(++count_) + ".part");
+    if (fileExists(part)) {
+      if (!isOwn(part)) continue;
+      deleteFile(part);
+    }
+    parts_.push_back(part);
+    return part;
+  }
+}
+
+NativePath OutputFolder::claim(const std::string& name) const {
+  NativePath path = path_ / pathFromText(name);
+  if (!fileExists(path) || isOwn(path)) return path;
+  throw Fault("The file " + textFromPath(path) +
+              " is there and was not written by an import, or was changed since. It stays as it "
+              "is: move it away, or choose another folder with --out.");
+}
+
+void OutputFolder::add(const NativePath& part, const std::string& name) {
+  results_.emplace_back(part, claim(name));
+}
+
+NativePath OutputFolder::write(std::string_view content) {
+  NativePath part = newPart();
+  OutputFile(part, Creation::kNew).append(content);
+  return part;
+}
+
+void OutputFolder::commit() {
+  for (const auto& [part, path] : results_) moveFile(part, path);
+  committed_ = true;
+}
+
+// A control file has no room for a mark; the report beside it has its checksum.
+bool OutputFolder::isOwn(const NativePath& path) const {
+  if (beginningOf(path, kImportMark.size()) == kImportMark) return true;
+  const NativePath report = path_ / kImportReport;
+  if (path.filename() != NativePath(kImportCase) || !fileExists(report)) return false;
+  const std::string text = beginningOf(report, kLongestReport);
+  return text.starts_with(kImportMark) &&
+         text.find(checksum(beginningOf(path, kLongestReport))) != text.npos;
+}
+
+}  // namespace korventally::engine

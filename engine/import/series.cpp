@@ -1,0 +1,89 @@
+#include "engine/import/series.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "engine/calendar.h"
+#include "engine/import/model_value.h"
+#include "engine/import/output_folder.h"
+#include "engine/system_files.h"
+#include "engine/text.h"
+
+namespace korventally::engine {
+namespace {
+
+constexpr std::size_t kBuffer = 256 * std::size_t{1024};
+
+}  // namespace
+
+std::string modelHourText(Hour hour) { return dateText(hour, HourCount::kFrom1To24); }
+
+std::string concentrationDate(Hour hour) {
+  std::string text = modelHourText(hour);
+  for (char& c : text) {
+    if (c == '-') c = ' ';
+  }
+  return text;
+}
+
+std::optional<Hour> hourOfModel(std::int64_t yymmddhh) {
+  const std::int64_t hour = yymmddhh % 100, year = yymmddhh / 1000000;
+  if (hour < 1 || yymmddhh < 0) return {};
+  return hourFromDate(year + (year < 50 ? 2000 : 1900), yymmddhh / 10000 % 100,
+                      yymmddhh / 100 % 100, hour);
+}
+
+Series::Series(std::string group, const InputFile& file, std::uint64_t line, const NativePath& part,
+               ValueUnit unit)
+    : file_(part, Creation::kNew), unit_(unit) {
+  facts_.group = std::move(group);
+  facts_.file = file.name();
+  facts_.line = line;
+  facts_.part = part;
+  line_ = std::string(kImportMark) + ": a part of what one was writing\n";
+  facts_.begin = line_.size();
+}
+
+std::string Series::begin(Hour hour) {
+  if (facts_.hours > 0 && hour != facts_.last + 1) {
+    const std::string follows = " goes on with " + modelHourText(hour) + " behind " +
+                                modelHourText(facts_.last) + " of group " + facts_.group;
+    if (hour == facts_.last) return follows + ": this hour comes twice.";
+    if (hour < facts_.last) return follows + ": a step back.";
+    return follows + ": a gap of " + hoursText(hour - facts_.last - 1) +
+           ". A case needs every hour of its run.";
+  }
+  if (facts_.hours == 0) facts_.first = hour;
+  facts_.last = hour_ = hour;
+  receptor_ = 0;
+  highest_ = 0;
+  lineBegin_ = line_.size();
+  line_ += concentrationDate(hour);
+  return {};
+}
+
+void Series::endHour() {
+  line_ += '\n';
+  ++facts_.hours;
+  if (highest_ == 0) {
+    facts_.zeroHours.push_back({hour_, written_ + lineBegin_, written_ + line_.size()});
+  }
+  if (highest_ > facts_.largest.value) facts_.largest = {highest_, highestAt_, hour_};
+  if (line_.size() >= kBuffer) write();
+}
+
+SeriesFacts Series::finish() {
+  write();
+  return std::move(facts_);
+}
+
+void Series::write() {
+  file_.append(line_);
+  written_ += line_.size();
+  line_.clear();
+}
+
+}  // namespace korventally::engine
