@@ -33,6 +33,7 @@ FORMS = [
     ("E12.5", 1e-4, 12, fortran(5)),
     ("E13.6", 1e-4, 13, fortran(6)),
     ("F13.5", 1e3, 13, lambda v: "%.5f" % v),
+    ("F13.5 with E-06", 1e3, 17, lambda v: "%.5fE-06" % v),  # what an import writes
     ("0.0000123456", 1e-4, 12, lambda v: "%.10f" % v),
     ("%.6G", 1e3, 12, lambda v: "%.6G" % v),
 ]
@@ -79,7 +80,7 @@ def seconds(command):
 
 def main():
     engine, chosen = sys.argv[1], tuple(sys.argv[2:])
-    print("%-14s %-14s %6s %9s %9s %9s" % ("form", "separator", "MB", "wc -l", "engine", "against"))
+    print("%-16s %-14s %6s %9s %9s %9s" % ("form", "separator", "MB", "wc -l", "engine", "against"))
     for name, scale, width, text in FORMS:
         if chosen and not name.startswith(chosen):
             continue
@@ -91,7 +92,7 @@ def main():
                 pairs = [(seconds(["wc", "-l"] + files), seconds([engine, str(control)]))
                          for _ in range(RUNS)]
             counting, computing = (megabytes / min(times) for times in zip(*pairs))
-            print("%-14s %-14s %6.0f %9.0f %9.0f %9.2f" % (
+            print("%-16s %-14s %6.0f %9.0f %9.0f %9.2f" % (
                 name, separator_name, megabytes, counting, computing, computing / counting),
                 flush=True)
 

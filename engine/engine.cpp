@@ -17,6 +17,7 @@
 #include "engine/columns.h"
 #include "engine/concentration_file.h"
 #include "engine/control_file.h"
+#include "engine/crew.h"
 #include "engine/exceedance_file.h"
 #include "engine/fault.h"
 #include "engine/group_reader.h"

@@ -76,6 +76,8 @@ void deleteFile(const NativePath& path) {
   if (::unlink(path.c_str()) != 0) fail(path, "deleted", errno);
 }
 
+void deleteIfPossible(const NativePath& path) noexcept { ::unlink(path.c_str()); }
+
 bool fileExists(const NativePath& path) {
   struct stat state;
   return ::lstat(path.c_str(), &state) == 0;

@@ -34,6 +34,9 @@ std::int64_t localOffsetAt(std::int64_t seconds);
 /// Deletes the file. Throws Fault when there is none or it cannot be deleted.
 void deleteFile(const NativePath& path);
 
+/// Deletes the file if it is there and can be deleted.
+void deleteIfPossible(const NativePath& path) noexcept;
+
 /// True when there is a file or a folder of that name.
 bool fileExists(const NativePath& path);
 

@@ -10,7 +10,7 @@ void ValueShape::learn(std::string_view, std::string_view) {}
 
 void ValueShape::add(const char*&, const char*, double*&, double*) const {}
 
-void ValueDecimals::learn(int) {}
+void ValueDecimals::learn(int, std::string_view) {}
 
 bool ValueDecimals::add(const char*&, const char*, double*&, double*) const { return true; }
 

@@ -69,17 +69,26 @@ bool ValueRow::addNext(const char*& at, const char* lineEnd, double& sum) {
   if (const std::optional<UsualDecimal> usual = usualDecimal(field)) {
     value = usual->number;
     if (value > kLargestValue) return false;
-    if (usual->hasExponent) {
+    if (!usual->exponent.empty()) {
       shape_.learn({at, static_cast<std::size_t>(field.data() - at)}, field);
-    } else {
-      decimals_.learn(usual->decimals);
     }
+    learnDecimals(*usual, field.size());
   } else if (!isConcentration(field, value)) {
     return false;
   }
   sum += value;
   at = fields.rest().data();
   return true;
+}
+
+// An exponent that comes back with a value of another width is one that all values have; where the
+// widths are alike, ValueShape reads all exponents faster.
+void ValueRow::learnDecimals(const UsualDecimal& value, std::size_t width) {
+  const bool comesBack =
+      value.exponent == std::string_view(exponent_, value.exponent.size()) && width != width_;
+  if (value.exponent.empty() || comesBack) decimals_.learn(value.decimals, value.exponent);
+  if (value.exponent.size() <= sizeof exponent_) std::ranges::copy(value.exponent, exponent_);
+  width_ = width;
 }
 
 std::string explainValues(std::string_view values, std::size_t expected) {

@@ -8,6 +8,7 @@
 
 #include "engine/value_decimals.h"
 #include "engine/value_shape.h"
+#include "engine/value_text.h"
 
 namespace korventally::engine {
 
@@ -29,11 +30,14 @@ class ValueRow {
  private:
   bool addAlike(const char*& at, const char* lineEnd, double*& sum, double* end);
   bool addNext(const char*& at, const char* lineEnd, double& sum);
+  void learnDecimals(const UsualDecimal& value, std::size_t width);
 
   ValueShape shape_;
   ValueDecimals decimals_;
-  int misses_ = 0;  // how often decimals_ took nothing, as the number of values to let pass
-  int passes_ = 0;  // of those still to let pass
+  char exponent_[8] = {};  // of the last value that was read by itself
+  std::size_t width_ = 0;  // of that value
+  int misses_ = 0;         // how often decimals_ took nothing, as the number of values to let pass
+  int passes_ = 0;         // of those still to let pass
 };
 
 /// What is wrong with values that addTo() refused, to follow "The file F, line N": for example

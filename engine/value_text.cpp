@@ -56,7 +56,7 @@ std::optional<UsualDecimal> usualDecimal(std::string_view text) {
     count += decimals;
   }
   int power = -decimals;
-  const bool hasExponent = !text.empty();
+  const std::string_view exponent = text;
   if (count == 0 || count > 18 || digits > kMostExact || !takeExponent(text, power)) {
     return std::nullopt;
   }
@@ -64,7 +64,7 @@ std::optional<UsualDecimal> usualDecimal(std::string_view text) {
   const auto number = static_cast<double>(static_cast<std::int64_t>(digits));
   // Both are exact, so the one division or multiplication rounds once, and correctly.
   return UsualDecimal{power < 0 ? number / kPowers[-power] : number * kPowers[power], decimals,
-                      hasExponent};
+                      exponent};
 }
 
 }  // namespace korventally::engine

@@ -8,8 +8,8 @@ namespace korventally::engine {
 
 struct UsualDecimal {
   double number = 0;
-  int decimals = 0;  ///< behind the point
-  bool hasExponent = false;
+  int decimals = 0;           ///< behind the point
+  std::string_view exponent;  ///< "E-05", with its letter; empty without one
 };
 
 /// The number that fills the whole text, correctly rounded as std::from_chars rounds, if it has no

@@ -168,6 +168,8 @@ void deleteFile(const NativePath& path) {
   if (!DeleteFileW(fullPath(path).c_str())) fail(path, "deleted", GetLastError());
 }
 
+void deleteIfPossible(const NativePath& path) noexcept { DeleteFileW(fullPath(path).c_str()); }
+
 bool fileExists(const NativePath& path) {
   return GetFileAttributesW(fullPath(path).c_str()) != INVALID_FILE_ATTRIBUTES;
 }

@@ -1,6 +1,5 @@
 #include "engine/import/calm_hours.h"
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>

@@ -9,12 +9,10 @@
 #include <string_view>
 #include <vector>
 
-#include "engine/calendar.h"
 #include "engine/fault.h"
 #include "engine/import/imported_study.h"
 #include "engine/import/series.h"
 #include "engine/system_files.h"
-#include "engine/text.h"
 
 namespace korventally::engine {
 namespace {

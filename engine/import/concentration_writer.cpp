@@ -5,11 +5,14 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
+#include "engine/calendar.h"
 #include "engine/columns.h"
 #include "engine/concentration_file.h"
 #include "engine/import/imported_study.h"
+#include "engine/import/model_data.h"
 #include "engine/import/output_folder.h"
 #include "engine/import/series.h"
 #include "engine/system_files.h"

@@ -1,5 +1,6 @@
 #include "engine/import/import.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
@@ -9,7 +10,6 @@
 #include <string>
 #include <string_view>
 #include <system_error>
-#include <utility>
 #include <vector>
 
 #include "engine/crew.h"
@@ -99,8 +99,8 @@ class Import {
   std::string write() {
     const std::vector<std::string> names = concentrationFileNames(study_);
     for (const std::string& name : names) out_.claim(name);
-    std::vector<NativePath> parts;
-    for (std::size_t i = 0; i < names.size(); ++i) parts.push_back(out_.newPart());
+    std::vector<NativePath> parts(names.size());
+    std::ranges::generate(parts, [&] { return out_.newPart(); });
     Crew crew(names.size(), [&](std::size_t i, const Crew&) {
       writeConcentrations(study_, study_.groups[i], parts[i]);
     });

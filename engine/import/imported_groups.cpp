@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "engine/calendar.h"

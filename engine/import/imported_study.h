@@ -1,7 +1,6 @@
 // The groups, receptors and hours of a case, put together from a dispersion model's files.
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 #include <map>
 #include <string>

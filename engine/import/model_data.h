@@ -1,6 +1,7 @@
 // What the import reads of a dispersion model's files, whichever form they have.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <map>

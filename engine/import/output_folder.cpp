@@ -30,13 +30,8 @@ std::string checksum(std::string_view content) {
 OutputFolder::OutputFolder(const NativePath& path) : path_(path), made_(makeFolder(path)) {}
 
 OutputFolder::~OutputFolder() {
-  for (const NativePath& part : parts_) {
-    try {
-      if (fileExists(part)) deleteFile(part);
-    } catch (const Fault&) {
-      // It begins with the mark: the next import deletes it.
-    }
-  }
+  // One that cannot be deleted begins with the mark: the next import deletes it.
+  for (const NativePath& part : parts_) deleteIfPossible(part);
   if (made_ && !committed_) removeEmptyFolder(path_);
 }
 

@@ -12,6 +12,7 @@
 #include "engine/import/imported_study.h"
 #include "engine/import/model_value.h"
 #include "engine/import/receptor_names.h"
+#include "engine/system_files.h"
 #include "tests/engine/imports.h"
 #include "tests/engine/model_files.h"
 
@@ -102,7 +103,7 @@ TEST(Import, MakesConcentrationFilesReceptorsAndACase) {
             std::string::npos);
   std::string control;
   const auto path = [&](const char* name) {
-    return imports.study().text("out/" + std::string(name));
+    return textFromPath(imports.study().path("out") / name);
   };
   for (const std::string& value :
        {path("korventally.lst"), std::string("SO2"),    std::string("2010,07,16,01"),

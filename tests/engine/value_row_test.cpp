@@ -42,8 +42,10 @@ std::string formatted(std::mt19937& random, const std::string& format) {
 
 // The C library's strtod is the independent judge: both must round correctly.
 TEST(ValueRow, ReadsEveryFormatExactlyAsTheCLibraryDoes) {
-  const char* formats[] = {"%.5E",  "%.5e",  "%.1E", "%.7E",  "%.8E",    "%.6f", "%.5f", "%13.5f",
-                           "%.12f", "%.17g", "%g",   "%.13f", "%020.5f", "%.3E", "%.1f", "%.6G"};
+  const char* formats[] = {"%.5E",     "%.5e",      "%.1E",    "%.7E",  "%.8E",     "%.6f",
+                           "%.5f",     "%13.5f",    "%.12f",   "%.17g", "%g",       "%.13f",
+                           "%020.5f",  "%.3E",      "%.1f",    "%.6G",  "%.5fE-06", "%.5fE-17",
+                           "%.2fe-00", "%.12fE-06", "%.6fE+01"};
   const std::string separators[] = {" ",
                                     "   ",
                                     "\t",
@@ -109,6 +111,13 @@ const BadRow kBadRows[] = {
     {" 1 1.1e9", ", value 2 is \"1.1e9\", which is larger than any concentration"},
     {" 1.00000E-05 1.00000E+12",
      ", value 2 is \"1.00000E+12\", which is larger than any concentration"},
+    {" 1.5000E-06 1.5000E-", ", value 2 is \"1.5000E-\", which is not a number"},
+    {" 1.5000E-06 1.5000E-061.5", ", value 2 is \"1.5000E-061.5\", which is not a number"},
+    {" 1.5000E-06 1.5000EE06", ", value 2 is \"1.5000EE06\", which is not a number"},
+    {" 1.5000E-06 1.5000E-06E-06", ", value 2 is \"1.5000E-06E-06\", which is not a number"},
+    {" 1.5000E-06 1.5-000E-06", ", value 2 is \"1.5-000E-06\", which is not a number"},
+    {" 1.5000E-06 E-06", ", value 2 is \"E-06\", which is not a number"},
+    {" 1.5000E-06 1.50 00E-06", " holds 3 values instead of 2, one for each receptor"},
     {",,1", ", value 1 is \"\", which is not a number"},
     {" 1,,2", ", value 2 is \"\", which is not a number"},
     {" 1,2,", ", value 3 is \"\", which is not a number"},
@@ -139,6 +148,8 @@ const BadRow kBadRows[] = {
 TEST(ValueRow, RefusesWhatIsNotTwoConcentrationsAndSaysWhy) {
   // With values in front that take each of the ways through the code, and end at every place.
   const char* const alike[] = {" 1.00000E-05", "  1.00000E-05", ",1.00000", " 2.5000", "  2.5"};
+  // An exponent is learnt from values of two widths.
+  const std::string widths = " 12.5000E-06 1.2500E-06";
   for (const BadRow& bad : kBadRows) {
     SCOPED_TRACE(bad.values);
     EXPECT_EQ(explainValues(bad.values, 2), bad.says);
@@ -150,7 +161,25 @@ TEST(ValueRow, RefusesWhatIsNotTwoConcentrationsAndSaysWhy) {
         EXPECT_FALSE(row.addTo(sums, Row(values + bad.values).values())) << values;
       }
     }
+    for (std::string values = widths; values.size() < 400; values += " 12.5000E-06") {
+      std::vector<double> sums((values.size() - widths.size()) / 12 + 4);
+      ValueRow row;
+      EXPECT_FALSE(row.addTo(sums, Row(values + bad.values).values())) << values;
+    }
   }
+}
+
+// What looks like the exponent that was learnt up to its last digit has a value of its own.
+TEST(ValueRow, KeepsOtherExponentsApart) {
+  std::string values = " 12.5000E-06 1.2500E-06";
+  for (int i = 0; i < 40; ++i)
+    values += i == 21 ? " 37.5000E-05" : i == 30 ? " 1.5000E-6" : " 1.5000E-06";
+  std::vector<double> sums(42);
+  ValueRow row;
+  ASSERT_TRUE(row.addTo(sums, Row(values).values()));
+  EXPECT_EQ(sums[23], 37.5e-5);
+  EXPECT_EQ(sums[32], 1.5e-6);
+  EXPECT_EQ(sums[41], 1.5e-6);
 }
 
 // One way of reading leaves what stands behind its last value to the next one.
