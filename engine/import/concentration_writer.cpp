@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -23,10 +24,6 @@ namespace {
 constexpr std::size_t kBuffer = 1024 * std::size_t{1024};
 constexpr std::size_t kNamesInLine = 16;
 
-std::string markText(Hour hour, HourKind kind) {
-  return concentrationDate(hour) + (kind == HourKind::kCalm ? " calm\n" : " missing\n");
-}
-
 // A piece of a part file and what stands there instead.
 struct Cut {
   std::uint64_t begin = 0;
@@ -34,12 +31,19 @@ struct Cut {
   std::string instead;
 };
 
+std::optional<HourKind> markOf(const ImportedStudy& study, Hour hour) {
+  const auto mark = study.marks.find(hour);
+  return mark == study.marks.end() ? std::nullopt : std::optional(mark->second);
+}
+
+// Where hours of zeros were marked otherwise than they are now.
 std::vector<Cut> cutsOf(const ImportedStudy& study, const SeriesFacts& series) {
-  std::vector<Cut> cuts = {{0, series.begin, ""}};
+  std::vector<Cut> cuts;
   for (const ZeroHour& zero : series.zeroHours) {
-    const auto mark = study.marks.find(zero.hour);
-    if (mark == study.marks.end()) continue;
-    cuts.push_back({zero.begin, zero.end, markText(mark->first, mark->second)});
+    const std::optional<HourKind> mark = markOf(study, zero.hour);
+    if (mark == zero.mark) continue;
+    cuts.push_back({zero.begin, zero.end,
+                    concentrationDate(zero.hour) + (mark ? markText(*mark) : series.zeros) + "\n"});
   }
   return cuts;
 }
@@ -93,24 +97,29 @@ class Copier {
   std::string out_;
 };
 
-std::string headerOf(const ImportedStudy& study, const ImportedGroup& group) {
+}  // namespace
+
+std::string concentrationHeader(const std::string& group,
+                                const std::vector<std::string>& receptors) {
   std::string text =
-      std::string(kImportMark) + ": group " + group.name + ", g/m**3, hours counted 1 to 24\n";
-  for (std::size_t i = 0; i < study.receptors.size(); ++i) {
+      std::string(kImportMark) + ": group " + group + ", g/m**3, hours counted 1 to 24\n";
+  for (std::size_t i = 0; i < receptors.size(); ++i) {
     text += i % kNamesInLine == 0 ? (i == 0 ? "# receptors: " : "\n# receptors: ") : " ";
-    text += study.receptors[i];
+    text += receptors[i];
   }
   return text + "\n";
 }
 
-}  // namespace
+bool isComplete(const ImportedStudy& study, const ImportedGroup& group) {
+  return group.series.size() == 1 && cutsOf(study, *group.series.front()).empty();
+}
 
-void writeConcentrations(const ImportedStudy& study, const ImportedGroup& group,
-                         const NativePath& part) {
-  OutputFile file(part, Creation::kNew);
-  file.append(headerOf(study, group));
+void joinParts(const ImportedStudy& study, const ImportedGroup& group, const NativePath& to) {
+  OutputFile file(to, Creation::kNew);
   for (const SeriesFacts* series : group.series) {
-    Copier(series->part, cutsOf(study, *series), file).copy();
+    std::vector<Cut> cuts = cutsOf(study, *series);
+    if (series != group.series.front()) cuts.insert(cuts.begin(), {0, series->begin, ""});
+    Copier(series->part, std::move(cuts), file).copy();
   }
 }
 

@@ -2,16 +2,23 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "engine/import/imported_study.h"
 #include "engine/system_files.h"
 
 namespace korventally::engine {
 
-/// Writes the hours of a group's series into `part`, calm and missing ones marked, below lines that
-/// name the receptors. Throws Fault.
-void writeConcentrations(const ImportedStudy& study, const ImportedGroup& group,
-                         const NativePath& part);
+/// What a concentration file of this group begins with: the mark, the names of the receptors.
+std::string concentrationHeader(const std::string& group,
+                                const std::vector<std::string>& receptors);
+
+/// True when the group's one part file is the concentration file already.
+bool isComplete(const ImportedStudy& study, const ImportedGroup& group);
+
+/// Joins the group's part files into `to`, with hours of zeros marked as the study has them. Throws
+/// Fault.
+void joinParts(const ImportedStudy& study, const ImportedGroup& group, const NativePath& to);
 
 /// X, Y and ID of each receptor, in the model's order.
 std::string receptorFileText(const ImportedStudy& study);

@@ -1,4 +1,5 @@
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 #include <optional>
 #include <string>
@@ -27,6 +28,20 @@ constexpr std::size_t kLongestLine = 1000;
 bool isZero(std::string_view field) {
   const std::string_view mantissa = field.substr(0, field.find('E'));
   return mantissa.find_first_not_of(" -+.0") == mantissa.npos;
+}
+
+// Whether two texts of this size, at least eight bytes, are the same; the last eight may overlap
+// those before.
+bool isEqual(const char* one, const char* other, std::size_t size) {
+  std::uint64_t difference = 0, first, second;
+  const auto compare = [&](std::size_t place) {
+    std::memcpy(&first, one + place, sizeof first);
+    std::memcpy(&second, other + place, sizeof second);
+    difference |= first ^ second;
+  };
+  for (std::size_t place = 0; place + sizeof first < size; place += sizeof first) compare(place);
+  compare(size - sizeof first);
+  return difference == 0;
 }
 
 // Rows come in blocks: one hour, or another average, of one group at all receptors. The first block
@@ -58,7 +73,8 @@ class FormattedReader {
     if (!layout_) learnLayout(row);
     if (row.size() < layout_->shortest()) refuse(" is cut short or no row of the model.");
     const std::string_view key = layout_->key(row);
-    if (key_ != key || row_ == count_) beginBlock(key);
+    if (row_ == count_ || key_.empty() || !isEqual(key_.data(), key.data(), RowLayout::kKey))
+      beginBlock(key);
     if (count_ == 0) {
       learnPlace(row);
     } else if (!isAtPlace(row)) {
@@ -107,7 +123,8 @@ class FormattedReader {
     if (count_ == 0) count_ = row_;
     if (row_ != count_) refuseRowCount();
     if (current_ != nullptr) {
-      current_->endHour();
+      current_->endHour(reading_.zeroMark,
+                        [&] { return reading_.header(current_->group(), data_.places); });
     } else {
       series_.leaveOut(row_);
       if (hasValue_) series_.hasValues(hourOf(key_));
@@ -130,14 +147,17 @@ class FormattedReader {
     }
     known_.emplace_back(RowLayout::place(row));
     known_.back() += layout_->heights(row);
+    known_.back() += layout_->network(row);
   }
 
   bool isAtPlace(std::string_view row) const {
     const std::string& known = known_[row_];
-    const std::string_view place = RowLayout::place(row), heights = layout_->heights(row);
-    return std::memcmp(known.data(), place.data(), place.size()) == 0 &&
-           std::memcmp(known.data() + place.size(), heights.data(), heights.size()) == 0 &&
-           withoutBlanks(layout_->network(row)) == data_.places[row_].network;
+    const std::string_view heights = layout_->heights(row), network = layout_->network(row);
+    const char* const at = known.data() + RowLayout::kPlace;
+    return isEqual(known.data(), row.data(), RowLayout::kPlace) &&
+           isEqual(at, heights.data(), heights.size()) &&
+           (network == std::string_view(known).substr(RowLayout::kPlace + heights.size()) ||
+            withoutBlanks(network) == data_.places[row_].network);
   }
 
   void addValue(std::string_view field) {

@@ -1,6 +1,5 @@
 #include "engine/import/import.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
@@ -8,10 +7,11 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <system_error>
 #include <vector>
 
+#include "engine/calendar.h"
+#include "engine/concentration_file.h"
 #include "engine/crew.h"
 #include "engine/fault.h"
 #include "engine/file_beginning.h"
@@ -24,6 +24,7 @@
 #include "engine/import/model_data.h"
 #include "engine/import/options.h"
 #include "engine/import/output_folder.h"
+#include "engine/import/receptor_names.h"
 #include "engine/model_file.h"
 #include "engine/system_files.h"
 
@@ -44,14 +45,14 @@ class Import {
       : options_(options), progress_(progress), folder_(fullName(options.folder)), out_(folder_) {}
 
   std::string run() {
-    readFiles();
-    putGroupsTogether(study_, options_);
-    std::optional<CalmHours> calms;
     if (options_.calms) {
       InputFile file(*options_.calms);
-      calms = readCalmHours(file);
+      calms_ = readCalmHours(file);
     }
-    judgeZeroHours(study_, options_, calms ? &*calms : nullptr);
+    if (options_.receptors) listed_ = readListedReceptors(*options_.receptors);
+    readFiles();
+    putGroupsTogether(study_, options_);
+    judgeZeroHours(study_, options_, calms_ ? &*calms_ : nullptr);
     return write();
   }
 
@@ -65,7 +66,7 @@ class Import {
     }
     study_.files.resize(files_.size());
     readSideBySide(formatted, readFormatted);
-    agreeOnReceptors(study_, options_);
+    agreeOnReceptors(study_, listed_);
     if (unformatted.empty()) return;
     requireReceptors(study_, textFromPath(options_.files[unformatted.front()]));
     const std::size_t receptors = study_.places.size();
@@ -77,12 +78,32 @@ class Import {
   void readSideBySide(const std::vector<std::size_t>& which,
                       const std::function<ModelData(InputFile&, const Reading&)>& read) {
     Crew crew(which.size(), [&](std::size_t i, const Crew& all) {
-      const Reading reading{options_.unit,
-                            [&](std::string_view group) { return options_.wants(group); },
-                            [&] { return out_.newPart(); }, [&] { return all.mayGiveUp(i); }};
+      const Reading reading{
+          .unit = options_.unit,
+          .wants = [&](auto group) { return options_.wants(group); },
+          .newPart = [&] { return out_.newPart(); },
+          .header = [&](auto& group, auto& places) { return header(group, places); },
+          .zeroMark = [&](Hour hour) { return zeroMark(hour); },
+          .mayGiveUp = [&] { return all.mayGiveUp(i); }};
       study_.files[which[i]] = read(*files_[which[i]], reading);
     });
     for (std::size_t i = 0; i < which.size(); ++i) crew.await(i, patience());
+  }
+
+  // Unformatted files come when the receptors are known; of formatted ones each has to know its own
+  // at once, and they must be the same.
+  std::string header(const std::string& group, const std::vector<ModelPlace>& places) const {
+    if (places.empty()) return concentrationHeader(group, study_.receptors);
+    const bool named = listed_ && !listed_->names.empty();
+    return concentrationHeader(group, named ? listed_->names : receptorNames(places));
+  }
+
+  // As long as it is not judged, an hour of zeros is most likely a calm one.
+  std::optional<HourKind> zeroMark(Hour hour) const {
+    if (options_.zeroHours == ZeroHours::kValid) return std::nullopt;
+    if (!calms_) return HourKind::kCalm;
+    const auto named = calms_->hours.find(hour);
+    return named == calms_->hours.end() ? std::nullopt : std::optional(named->second.kind);
   }
 
   Patience patience() const {
@@ -100,10 +121,8 @@ class Import {
     const std::vector<std::string> names = concentrationFileNames(study_);
     for (const std::string& name : names) out_.claim(name);
     std::vector<NativePath> parts(names.size());
-    std::ranges::generate(parts, [&] { return out_.newPart(); });
-    Crew crew(names.size(), [&](std::size_t i, const Crew&) {
-      writeConcentrations(study_, study_.groups[i], parts[i]);
-    });
+    Crew crew(names.size(),
+              [&](std::size_t i, const Crew&) { parts[i] = completed(study_.groups[i]); });
     for (std::size_t i = 0; i < names.size(); ++i) {
       crew.await(i);
       out_.add(parts[i], names[i]);
@@ -115,6 +134,13 @@ class Import {
     out_.add(out_.write(report), std::string(kImportReport));
     out_.commit();
     return report;
+  }
+
+  NativePath completed(const ImportedGroup& group) {
+    if (isComplete(study_, group)) return group.series.front()->part;
+    NativePath part = out_.newPart();
+    joinParts(study_, group, part);
+    return part;
   }
 
   std::string addCase() {
@@ -129,6 +155,8 @@ class Import {
   OutputFolder out_;
   std::vector<std::unique_ptr<InputFile>> files_;
   ImportedStudy study_;
+  std::optional<CalmHours> calms_;
+  std::optional<ListedReceptors> listed_;
 };
 
 }  // namespace

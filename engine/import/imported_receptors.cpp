@@ -1,7 +1,7 @@
 #include "engine/import/imported_receptors.h"
 
 #include <cstddef>
-#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,8 +11,6 @@
 #include "engine/file_beginning.h"
 #include "engine/import/imported_study.h"
 #include "engine/import/model_data.h"
-#include "engine/import/model_value.h"
-#include "engine/import/options.h"
 #include "engine/import/receptor_names.h"
 #include "engine/model_file.h"
 #include "engine/receptor_file.h"
@@ -22,25 +20,18 @@
 namespace korventally::engine {
 namespace {
 
-// Receptors and where they stand in a file, for messages.
-struct Source {
-  std::string file;
-  std::vector<ModelPlace> places;
-  std::vector<std::uint64_t> lines;
-};
-
 bool isSame(const ModelPlace& one, const ModelPlace& other) {
   return parseDecimal(one.x) == parseDecimal(other.x) &&
          parseDecimal(one.y) == parseDecimal(other.y);
 }
 
-std::string textOf(const Source& source, std::size_t receptor) {
+std::string textOf(const ListedReceptors& source, std::size_t receptor) {
   const ModelPlace& place = source.places[receptor];
   return "at " + place.x + ", " + place.y + " in the file " + source.file + ", line " +
          std::to_string(source.lines[receptor]);
 }
 
-void requireSame(const Source& one, const Source& other) {
+void requireSame(const ListedReceptors& one, const ListedReceptors& other) {
   if (one.places.size() != other.places.size()) {
     throw Fault("The file " + other.file + " has " + counted(other.places.size(), "receptor") +
                 ", but the file " + one.file + " has " + std::to_string(one.places.size()) +
@@ -54,10 +45,12 @@ void requireSame(const Source& one, const Source& other) {
   }
 }
 
-Source sourceOf(const ModelData& data) {
-  Source source{data.file, data.places, {}};
-  for (std::size_t i = 0; i < data.places.size(); ++i) source.lines.push_back(data.firstRow + i);
-  return source;
+ListedReceptors receptorsOf(const ModelData& data) {
+  ListedReceptors receptors{data.file, data.places, {}, {}};
+  for (std::size_t i = 0; i < data.places.size(); ++i) {
+    receptors.lines.push_back(data.firstRow + i);
+  }
+  return receptors;
 }
 
 bool isFormattedModelFile(const NativePath& path) {
@@ -67,42 +60,39 @@ bool isFormattedModelFile(const NativePath& path) {
 
 ModelData readPlaces(const NativePath& path) {
   InputFile file(path);
-  const auto never = [] { return false; };
-  return readFormatted(file, {ValueUnit::kMicrograms, [](std::string_view) { return false; },
-                              [] { return NativePath(); }, never});
-}
-
-// Receptors with names of their own, or those of one of the model's formatted files.
-Source readSource(const NativePath& path, std::vector<std::string>& names) {
-  if (isFormattedModelFile(path)) return sourceOf(readPlaces(path));
-  InputFile file(path);
-  const Receptors receptors = readReceptors(file, 1);
-  Source source{receptors.file, {}, {}};
-  for (const Receptor& receptor : receptors.list) {
-    source.places.push_back({shortest(receptor.x), shortest(receptor.y), ""});
-    source.lines.push_back(receptor.line);
-    names.push_back(receptor.id);
-  }
-  return source;
+  Reading reading;
+  reading.wants = [](std::string_view) { return false; };
+  reading.mayGiveUp = [] { return false; };
+  return readFormatted(file, reading);
 }
 
 }  // namespace
 
-void agreeOnReceptors(ImportedStudy& study, const ImportOptions& options) {
-  std::vector<Source> sources;
-  std::vector<std::string> names;
-  if (options.receptors) {
-    sources.push_back(readSource(*options.receptors, names));
+ListedReceptors readListedReceptors(const NativePath& path) {
+  if (isFormattedModelFile(path)) return receptorsOf(readPlaces(path));
+  InputFile file(path);
+  const Receptors receptors = readReceptors(file, 1);
+  ListedReceptors listed{receptors.file, {}, {}, {}};
+  for (const Receptor& receptor : receptors.list) {
+    listed.places.push_back({shortest(receptor.x), shortest(receptor.y), ""});
+    listed.lines.push_back(receptor.line);
+    listed.names.push_back(receptor.id);
   }
+  return listed;
+}
+
+void agreeOnReceptors(ImportedStudy& study, const std::optional<ListedReceptors>& listed) {
+  std::vector<ListedReceptors> all;
+  if (listed) all.push_back(*listed);
   for (const ModelData& data : study.files) {
     if (data.places.empty()) continue;
-    sources.push_back(sourceOf(data));
-    requireSame(sources.front(), sources.back());
+    all.push_back(receptorsOf(data));
+    requireSame(all.front(), all.back());
     if (study.places.empty()) study.places = data.places;
   }
-  if (sources.empty()) return;
-  if (study.places.empty()) study.places = sources.front().places;
-  study.receptors = names.empty() ? receptorNames(study.places) : names;
+  if (all.empty()) return;
+  if (study.places.empty()) study.places = all.front().places;
+  study.receptors = all.front().names.empty() ? receptorNames(study.places) : all.front().names;
 }
 
 void requireReceptors(const ImportedStudy& study, const std::string& file) {

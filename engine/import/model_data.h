@@ -5,12 +5,14 @@
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "engine/calendar.h"
+#include "engine/concentration_file.h"
 #include "engine/import/model_value.h"
 #include "engine/import/series.h"
 #include "engine/system_files.h"
@@ -28,7 +30,12 @@ struct Reading {
   ValueUnit unit = ValueUnit::kMicrograms;
   std::function<bool(std::string_view)> wants;  ///< whether a group of this name is to be taken
   std::function<NativePath()> newPart;          ///< a file of its own for a series; any thread
-  std::function<bool()> mayGiveUp;              ///< once true, what is read is wanted no more
+  /// What the part file of a group begins with, given the receptors; any thread.
+  std::function<std::string(const std::string& group, const std::vector<ModelPlace>&)> header;
+  /// How an hour of zeros is to be marked, as far as can be told while reading; nothing: not at
+  /// all.
+  std::function<std::optional<HourKind>(Hour)> zeroMark;
+  std::function<bool()> mayGiveUp;  ///< once true, what is read is wanted no more
 };
 
 /// What one file came to.

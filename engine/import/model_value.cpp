@@ -3,7 +3,6 @@
 #include <charconv>
 #include <cmath>
 #include <cstddef>
-#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -13,28 +12,6 @@
 
 namespace korventally::engine {
 namespace {
-
-constexpr std::size_t kWidth = 13;  // of F13.5
-constexpr std::size_t kPoint = 7;
-
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
-
-// The digits of "   1398.53468" as a whole number and where they begin; -1 for any other form.
-std::int64_t digitsOfFixed(std::string_view field, std::size_t& first) {
-  if (field.size() != kWidth || field[kPoint] != '.') return -1;
-  std::size_t at = 0;
-  while (at < kPoint && field[at] == ' ') ++at;
-  first = at;
-  if (at == kPoint) return -1;
-  std::int64_t digits = 0;
-  bool clean = true;
-  for (; at < kWidth; ++at) {
-    if (at == kPoint) continue;
-    clean = clean && isDigit(field[at]);
-    digits = digits * 10 + (field[at] - '0');
-  }
-  return clean ? digits : -1;
-}
 
 // Where the exponent of a number begins, with its letter or its sign; npos without one.
 std::size_t exponentOf(std::string_view number) {
@@ -66,16 +43,8 @@ void append(std::string_view number, ValueUnit unit, std::string& line) {
 
 }  // namespace
 
-ValueFault copyValue(std::string_view field, ValueUnit unit, std::string& line, double& number) {
-  std::size_t first = 0;
-  const std::int64_t digits = digitsOfFixed(field, first);
-  if (digits >= 0) {
-    line += ' ';
-    line += field.substr(first);
-    if (unit == ValueUnit::kMicrograms) line += "E-06";
-    number = static_cast<double>(digits) / 1e5;
-    return ValueFault::kNone;
-  }
+ValueFault copyOtherValue(std::string_view field, ValueUnit unit, std::string& line,
+                          double& number) {
   std::string_view text = withoutBlanks(field);
   if (text.find('*') != text.npos) return ValueFault::kStars;
   const std::optional<double> value = parseModelNumber(text);

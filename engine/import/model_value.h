@@ -1,8 +1,12 @@
 // Values as a dispersion model prints them, copied into a concentration file digit by digit.
 #pragma once
 
+#include <cstddef>
+#include <cstring>
 #include <string>
 #include <string_view>
+
+#include "engine/import/fixed_value.h"
 
 namespace korventally::engine {
 
@@ -20,11 +24,27 @@ enum class ValueFault {
   kNoNumber,
 };
 
+/// copyValue() for any form of number.
+ValueFault copyOtherValue(std::string_view field, ValueUnit unit, std::string& line,
+                          double& number);
+
 /// Adds a value of a formatted file to `line`: a blank, the very digits, and the exponent lowered
 /// by six where the unit asks for it, so that nothing is rounded. `field` may have blanks around
 /// it; `number` becomes the value in the file's unit. A zero loses its sign. With a fault neither
 /// changes.
-ValueFault copyValue(std::string_view field, ValueUnit unit, std::string& line, double& number);
+inline ValueFault copyValue(std::string_view field, ValueUnit unit, std::string& line,
+                            double& number) {
+  const FixedValue value = field.size() == kFixedWidth ? fixedValue(field.data()) : FixedValue{};
+  if (value.digits < 0) return copyOtherValue(field, unit, line, number);
+  // Copied whole, so that its length is no question; what is wanted begins at the last blank.
+  char text[1 + kFixedWidth + 4] = " ";
+  std::memcpy(text + 1, field.data(), kFixedWidth);
+  std::memcpy(text + 1 + kFixedWidth, "E-06", 4);
+  const std::size_t exponent = unit == ValueUnit::kMicrograms ? 4 : 0;
+  line.append(text + value.blanks, 1 + kFixedWidth - value.blanks + exponent);
+  number = static_cast<double>(value.digits) / 1e5;
+  return ValueFault::kNone;
+}
 
 /// The same for a value of an unformatted file: the fewest digits that give it back.
 ValueFault copyValue(double value, ValueUnit unit, std::string& line);

@@ -30,7 +30,7 @@ bool isKey(std::string_view key) {
 std::optional<RowLayout> RowLayout::of(std::string_view row) {
   for (std::size_t values = 1; values <= 4; ++values) {
     for (const std::size_t heights : {1, 3}) {
-      const std::size_t end = kValues + kField * values + kHeight * heights;
+      const std::size_t end = kPlace + kField * values + kHeight * heights;
       if (row.size() >= end + kKey && isKey(row.substr(end, kKey))) return RowLayout(values, end);
     }
   }

@@ -24,10 +24,10 @@ class RowLayout {
 
   static std::string_view x(std::string_view row) { return row.substr(1, kNumber); }
   static std::string_view y(std::string_view row) { return row.substr(15, kNumber); }
-  static std::string_view place(std::string_view row) { return row.substr(0, kValues); }
-  static std::string_view value(std::string_view row) { return row.substr(kValues + 1, kNumber); }
+  static std::string_view place(std::string_view row) { return row.substr(0, kPlace); }
+  static std::string_view value(std::string_view row) { return row.substr(kPlace + 1, kNumber); }
   std::string_view heights(std::string_view row) const {
-    return row.substr(kValues + kField * values_, heightsEnd_ - kValues - kField * values_);
+    return row.substr(kPlace + kField * values_, heightsEnd_ - kPlace - kField * values_);
   }
 
   /// Average, group and date together: the same for all rows of one hour of one group.
@@ -41,6 +41,7 @@ class RowLayout {
   static std::string_view group(std::string_view key);
   static std::string_view date(std::string_view key);
 
+  static constexpr std::size_t kPlace = 28;  // X and Y, up to the values
   static constexpr std::size_t kKey = 28;
   /// The column of the value, from 1 on, as editors count.
   static constexpr std::size_t kValueColumn = 30;
@@ -48,7 +49,6 @@ class RowLayout {
  private:
   static constexpr std::size_t kNumber = 13;
   static constexpr std::size_t kField = 14;
-  static constexpr std::size_t kValues = 28;
 
   RowLayout(std::size_t values, std::size_t heightsEnd)
       : values_(values), heightsEnd_(heightsEnd) {}

@@ -2,13 +2,14 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <utility>
 
 #include "engine/calendar.h"
+#include "engine/concentration_file.h"
 #include "engine/import/model_value.h"
-#include "engine/import/output_folder.h"
 #include "engine/system_files.h"
 #include "engine/text.h"
 
@@ -29,6 +30,8 @@ std::string concentrationDate(Hour hour) {
   return text;
 }
 
+std::string markText(HourKind mark) { return mark == HourKind::kCalm ? " calm" : " missing"; }
+
 std::optional<Hour> hourOfModel(std::int64_t yymmddhh) {
   const std::int64_t hour = yymmddhh % 100, year = yymmddhh / 1000000;
   if (hour < 1 || yymmddhh < 0) return {};
@@ -43,8 +46,6 @@ Series::Series(std::string group, const InputFile& file, std::uint64_t line, con
   facts_.file = file.name();
   facts_.line = line;
   facts_.part = part;
-  line_ = std::string(kImportMark) + ": a part of what one was writing\n";
-  facts_.begin = line_.size();
 }
 
 std::string Series::begin(Hour hour) {
@@ -65,14 +66,25 @@ std::string Series::begin(Hour hour) {
   return {};
 }
 
-void Series::endHour() {
-  line_ += '\n';
-  ++facts_.hours;
-  if (highest_ == 0) {
-    facts_.zeroHours.push_back({hour_, written_ + lineBegin_, written_ + line_.size()});
+void Series::endHour(const std::function<std::optional<HourKind>(Hour)>& mark,
+                     const std::function<std::string()>& header) {
+  if (facts_.hours == 0) {
+    const std::string text = header();
+    line_.insert(0, text);
+    facts_.begin = lineBegin_ = text.size();
   }
+  ++facts_.hours;
+  if (highest_ == 0) noteZeros(mark(hour_));
+  line_ += '\n';
   if (highest_ > facts_.largest.value) facts_.largest = {highest_, highestAt_, hour_};
   if (line_.size() >= kBuffer) write();
+}
+
+void Series::noteZeros(std::optional<HourKind> mark) {
+  const std::size_t values = lineBegin_ + concentrationDate(hour_).size();
+  if (facts_.zeros.empty()) facts_.zeros = line_.substr(values);
+  if (mark) line_.replace(values, line_.npos, markText(*mark));
+  facts_.zeroHours.push_back({hour_, mark, written_ + lineBegin_, written_ + line_.size() + 1});
 }
 
 SeriesFacts Series::finish() {

@@ -3,12 +3,14 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "engine/calendar.h"
+#include "engine/concentration_file.h"
 #include "engine/import/model_value.h"
 #include "engine/system_files.h"
 
@@ -17,6 +19,7 @@ namespace korventally::engine {
 /// An hour that is zero at every receptor, and where its line stands in the part file.
 struct ZeroHour {
   Hour hour = 0;
+  std::optional<HourKind> mark;  ///< that the line has in place of its values
   std::uint64_t begin = 0;
   std::uint64_t end = 0;
 };
@@ -39,6 +42,7 @@ struct SeriesFacts {
   Hour last = 0;
   std::uint64_t hours = 0;
   std::vector<ZeroHour> zeroHours;
+  std::string zeros;         ///< the values of such an hour, as its line has them
   std::vector<double> sums;  ///< of each receptor's values, in the model's unit
   LargestValue largest;
 };
@@ -52,6 +56,9 @@ std::string modelHourText(Hour hour);
 
 /// "2010 07 16 24": an hour as a line of a concentration file begins.
 std::string concentrationDate(Hour hour);
+
+/// " calm" or " missing", in place of values.
+std::string markText(HourKind mark);
 
 class Series {
  public:
@@ -75,7 +82,12 @@ class Series {
     return fault;
   }
 
-  void endHour();
+  /// `mark`: in place of the values if all of them are zero. `header` stands in front of the first
+  /// hour.
+  void endHour(const std::function<std::optional<HourKind>(Hour)>& mark,
+               const std::function<std::string()>& header);
+
+  const std::string& group() const { return facts_.group; }
 
   /// Puts everything into the part file.
   SeriesFacts finish();
@@ -90,6 +102,7 @@ class Series {
     }
     ++receptor_;
   }
+  void noteZeros(std::optional<HourKind> mark);
   void write();
 
   SeriesFacts facts_;

@@ -116,7 +116,7 @@ class UnformattedReader {
       const ValueFault fault = series.add(valueOf(i));
       if (fault != ValueFault::kNone) refuseValue(fault, i);
     }
-    series.endHour();
+    series.endHour(reading_.zeroMark, [&] { return reading_.header(series.group(), {}); });
   }
 
   [[noreturn]] void refuse(const std::string& what) const {

@@ -9,6 +9,7 @@
 
 #include "engine/engine.h"
 #include "engine/import/case_file.h"
+#include "engine/import/fixed_value.h"
 #include "engine/import/imported_study.h"
 #include "engine/import/model_value.h"
 #include "engine/import/receptor_names.h"
@@ -58,6 +59,29 @@ TEST(ModelValue, IsCopiedDigitByDigit) {
     EXPECT_EQ(copyValue(field, ValueUnit::kMicrograms, line, number), fault) << field;
     EXPECT_EQ(line, "");
     EXPECT_EQ(number, 7);
+  }
+}
+
+// One byte after the other is another one: eight at once must see it as one at a time would.
+TEST(ModelValue, TakesNoOtherByteForADigit) {
+  for (const std::string field : {"   1398.53468", "      0.00000", "1234567.89012"}) {
+    for (std::size_t place = 0; place < field.size(); ++place) {
+      for (int byte = 1; byte < 256; ++byte) {
+        std::string changed = field, line;
+        changed[place] = static_cast<char>(byte);
+        const FixedValue value = fixedValue(changed.data());
+        const std::size_t first = changed.find_first_not_of(' ');
+        bool isFixed = first < 7 && changed[7] == '.';
+        for (std::size_t i = first; i < changed.size(); ++i) {
+          isFixed = isFixed && (i == 7 || (changed[i] >= '0' && changed[i] <= '9'));
+        }
+        ASSERT_EQ(value.digits >= 0, isFixed) << changed << place;
+        if (!isFixed) continue;
+        EXPECT_EQ(value.blanks, first);
+        changed.erase(7, 1);
+        EXPECT_EQ(value.digits, std::stoll(changed.substr(first)));
+      }
+    }
   }
 }
 
