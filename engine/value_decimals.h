@@ -21,7 +21,7 @@ class ValueDecimals {
   bool add(const char*& at, const char* lineEnd, double*& sum, double* end) const;
 
  private:
-  template <bool kExponent>
+  template <bool HasExponent>
   bool addAll(const char*& at, const char* lineEnd, double*& sum, double* end) const;
 
   [[maybe_unused]] std::size_t decimals_ = 0;  // 0: none learnt

@@ -136,12 +136,12 @@ bool ValueDecimals::add(const char*& at, const char* lineEnd, double*& sum, doub
                            : addAll<true>(at, lineEnd, sum, end);
 }
 
-template <bool kExponent>
+template <bool HasExponent>
 bool ValueDecimals::addAll(const char*& at, const char* lineEnd, double*& sum, double* end) const {
-  constexpr std::size_t kTail = kExponent ? kExponentSize : 0;
+  constexpr std::size_t kTail = HasExponent ? kExponentSize : 0;
   const Loaded weights(kWeights[decimals_], kPowers[decimals_ + static_cast<std::size_t>(power_)]);
   __m128d largest = _mm_setzero_pd();
-  Ends<kExponent> ends(decimals_, exponent_);
+  Ends<HasExponent> ends(decimals_, exponent_);
   for (bool going = true; going && sum != end;) {
     const std::size_t count = std::min(ends.find(at, lineEnd), static_cast<std::size_t>(end - sum));
     const char* const base = at;

@@ -35,14 +35,14 @@ inline __m128i isDigit(__m128i bytes) {
 inline __m128i is(char c, __m128i bytes) { return _mm_cmpeq_epi8(bytes, _mm_set1_epi8(c)); }
 
 // Finds the ends of values in the order of the text.
-template <bool kExponent>
+template <bool HasExponent>
 class Ends {
  public:
   using Place = std::uint16_t;
 
   static constexpr std::size_t kChunk = 1024;
 
-  /// `exponent` has four bytes, as "E-06" has; without kExponent none is looked at.
+  /// `exponent` has four bytes, as "E-06" has; without HasExponent none is looked at.
   Ends(std::size_t decimals, const char* exponent) : decimals_(decimals), exponent_(exponent) {}
 
   /// The ends from `at` on, up to the first one that is not the end of a number with so many
@@ -64,12 +64,12 @@ class Ends {
         if (last) bad ^= std::uint64_t{1} << (room - base);
       }
       std::uint64_t behind = 0;
-      if (kExponent) behind = takeExponents(marks, bad);
+      if (HasExponent) behind = takeExponents(marks, bad);
       const std::uint64_t ends = ~marks.number & (marks.number << 1 | carried_.number);
-      if (kExponent) bad |= ends ^ marks.letter;
+      if (HasExponent) bad |= ends ^ marks.letter;
       bad |= notEndsOfDecimals(marks, ends);
       if ((marks.comma | carried_.comma) != 0) bad |= doubledCommas(marks);
-      const std::uint64_t all = kExponent ? behind : ends;
+      const std::uint64_t all = HasExponent ? behind : ends;
       if (bad != 0) return countOf(note(base, all & ((bad & -bad) - 1), to));
       to = note(base, all, to);
       if (last) break;
@@ -89,7 +89,7 @@ class Ends {
       marks.point |= bits(is('.', bytes), i);
       marks.comma |= bits(is(',', bytes), i);
       marks.blank |= bits(_mm_or_si128(is(' ', bytes), is('\t', bytes)), i);
-      if (kExponent) markExponents(bytes, i, marks);
+      if (HasExponent) markExponents(bytes, i, marks);
     }
     return marks;
   }
@@ -106,14 +106,14 @@ class Ends {
       const __m128i isNumber = _mm_or_si128(isDigit(bytes), isPoint);
       const __m128i isOther = _mm_cmpeq_epi8(bytes, others);
       __m128i isKnown = _mm_or_si128(isNumber, _mm_or_si128(is(' ', bytes), isOther));
-      if (kExponent) isKnown = _mm_or_si128(isKnown, markExponents(bytes, i, marks));
+      if (HasExponent) isKnown = _mm_or_si128(isKnown, markExponents(bytes, i, marks));
       known = _mm_and_si128(known, isKnown);
       marks.number |= bits(isNumber, i);
       marks.point |= bits(isPoint, i);
       if (other == ',') marks.comma |= bits(isOther, i);
     }
     marks.blank = ~(marks.number | marks.comma);
-    if (kExponent) marks.blank &= ~(marks.letter | marks.sign);
+    if (HasExponent) marks.blank &= ~(marks.letter | marks.sign);
     return _mm_movemask_epi8(known) == 0xFFFF;
   }
 

@@ -1,6 +1,7 @@
 // Values as a dispersion model prints them, copied into a concentration file digit by digit.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstring>
 #include <string>
@@ -37,10 +38,11 @@ inline ValueFault copyValue(std::string_view field, ValueUnit unit, std::string&
   const FixedValue value = field.size() == kFixedWidth ? fixedValue(field.data()) : FixedValue{};
   if (value.digits < 0) return copyOtherValue(field, unit, line, number);
   // Copied whole, so that its length is no question; what is wanted begins at the last blank.
-  char text[1 + kFixedWidth + 4] = " ";
+  constexpr std::array kToGrams = {'E', '-', '0', '6'};
+  char text[1 + kFixedWidth + kToGrams.size()] = " ";
   std::memcpy(text + 1, field.data(), kFixedWidth);
-  std::memcpy(text + 1 + kFixedWidth, "E-06", 4);
-  const std::size_t exponent = unit == ValueUnit::kMicrograms ? 4 : 0;
+  std::memcpy(text + 1 + kFixedWidth, kToGrams.data(), kToGrams.size());
+  const std::size_t exponent = unit == ValueUnit::kMicrograms ? kToGrams.size() : 0;
   line.append(text + value.blanks, 1 + kFixedWidth - value.blanks + exponent);
   number = static_cast<double>(value.digits) / 1e5;
   return ValueFault::kNone;
