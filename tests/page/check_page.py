@@ -24,7 +24,7 @@ SPOILT = [  # what is changed in the page, into what, and what must be noticed t
     ("</body>", "<script>throw 1</script></body>", "console"),
     ("</body>", '<img src="file:///nowhere.png" alt=""/></body>', "fetched"),
     ("<main", '<p style="width:5000px">wide</p><main', "sideways"),
-    ('<circle', '<text', "marks"),
+    ('class="marks">', 'class="marks"><use/>', "marks"),
     ('<td class="n">', '<td class="n">7', "figure"),
 ]
 
@@ -68,6 +68,9 @@ def faults(browser, page, listing):
     marks = browser.execute_script(
         "return document.querySelectorAll('.marks use, .marks circle').length")
     receptors = int(re.search(r" lines, ([\d,]+) receptors?$", listing, re.M)[1].replace(",", ""))
+    drawn = re.search(r"Drawn are ([\d,]+) of ([\d,]+) receptors", browser.page_source)
+    if drawn and int(drawn[2].replace(",", "")) == receptors:
+        receptors = int(drawn[1].replace(",", ""))
     if marks != receptors:
         found.append("marks: %d of %d receptors" % (marks, receptors))
     figures = browser.execute_script(
