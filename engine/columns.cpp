@@ -85,8 +85,6 @@ std::vector<std::string> wrapped(std::string_view text) {
   return lines;
 }
 
-std::string fact(std::string_view label, std::string_view value) {
-  return "  " + left(std::string(label) + ":", 30) + std::string(value);
-}
+std::string factLine(const Fact& fact) { return "  " + left(fact.label + ":", 30) + fact.value; }
 
 }  // namespace korventally::engine

@@ -28,7 +28,11 @@ std::string shortest(double number);
 /// four. A word that is longer has a line of its own.
 std::vector<std::string> wrapped(std::string_view text);
 
+struct Fact {
+  std::string label, value;
+};
+
 /// "  label:              value", the form of all single facts.
-std::string fact(std::string_view label, std::string_view value);
+std::string factLine(const Fact& fact);
 
 }  // namespace korventally::engine

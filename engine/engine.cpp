@@ -31,6 +31,7 @@
 #include "engine/system_files.h"
 #include "engine/text.h"
 #include "engine/valid_hours.h"
+#include "engine/wall_time.h"
 #include "engine/warnings.h"
 
 namespace korventally::engine {
@@ -119,7 +120,7 @@ void reportResults(const Names& names, const Receptors& receptors,
                           validHoursOfBlocks(blocks, hours));
   std::vector<std::string> ofHours = linesOfClock(blocks);
   std::ranges::move(linesOfMarkedHours(blocks, hours, averages), std::back_inserter(ofHours));
-  reportAverages(names.theCase, blocks, ofHours, list);
+  reportAverages(linesOfAverages(names.theCase, blocks, ofHours), list);
   const Judgement judgement = judgeInto(table, names, averages);
   std::vector<std::string> warnings =
       allWarnings(names, receptors, groups, hours, averages, judgement);
@@ -128,7 +129,9 @@ void reportResults(const Names& names, const Receptors& receptors,
     warnings.push_back("No table of every exceedance was written: " + table.problem());
     where.clear();
   }
-  reportJudgement(names, averages, judgement, where, list);
+  std::vector<Fact> facts = factsOfJudgement(names, averages, judgement);
+  facts.push_back({"Every exceedance", where});
+  reportFacts("JUDGEMENT", facts, list);
   reportWarnings(warnings, list);
   reportMaxima(names, judgement, list);
   reportExceedances(names, averages, judgement, list);
@@ -171,9 +174,9 @@ Result runIntoListFile(const ControlText& text, const NativePath& controlFile, L
   const std::string sentence = sentenceOf([&] {
     const std::string tableFile = listFileOf(text) + ".csv";
     ExceedanceFile table(tableFile, roleOf(tableFile, text, controlFile));
-    reportTitle(list);
+    reportTitle(localTimeText(secondsNow()), list);
     const Case theCase = parseControl(text);
-    reportCase(theCase, textFromPath(controlFile), list);
+    reportFacts("CASE", factsOfCase(theCase, textFromPath(controlFile)), list);
     compute(theCase, table, list, watcher);
     list.complete();
     table.keep();

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "engine/calendar.h"
 #include "engine/columns.h"
@@ -9,7 +10,6 @@
 #include "engine/list_file.h"
 #include "engine/text.h"
 #include "engine/version.h"
-#include "engine/wall_time.h"
 
 namespace korventally::engine {
 namespace {
@@ -18,31 +18,30 @@ std::string concentration(const std::string& given) { return given + " ug/m**3";
 
 }  // namespace
 
-void reportTitle(ListFile& list) {
+void reportTitle(const std::string& runOn, ListFile& list) {
   list.line(std::string(kTitle) + ", VERSION " + std::string(kVersion));
   list.line(
       "Source contributions against the standard or increment and the significant impact level");
-  list.line("Run on " + localTimeText(secondsNow()));
+  list.line("Run on " + runOn);
   list.line();
 }
 
-void reportCase(const Case& theCase, const std::string& controlFile, ListFile& list) {
-  list.line("CASE");
-  list.line(fact("Control file", controlFile));
-  list.line(fact("List file", theCase.listFile));
-  list.line(fact("Species", theCase.species));
-  list.line(fact("Start (year-month-day hour)", dateText(theCase.start, theCase.startCount)));
-  list.line(fact("Run length", counted(static_cast<std::uint64_t>(theCase.runHours), "hour")));
-  list.line(fact("Averaging period",
-                 counted(static_cast<std::uint64_t>(theCase.averagingHours), "hour")));
-  list.line(fact("Standard or increment", concentration(theCase.standardText)));
-  list.line(fact("Significant impact level", concentration(theCase.silText)));
-  list.line(fact("Background, first group only", concentration(theCase.backgroundText)));
-  list.line(fact("Rank 1 values", theCase.excludeRank1 ? "excluded" : "included"));
-  list.line(fact("Receptor file format",
-                 theCase.receptorFormat == 1 ? "1 (X, Y, ID)" : "2 (rank, value, X, Y, ID)"));
-  list.line(fact("Source groups", std::to_string(theCase.groups.size())));
-  list.line();
+std::vector<Fact> factsOfCase(const Case& theCase, const std::string& controlFile) {
+  return {
+      {"Control file", controlFile},
+      {"List file", theCase.listFile},
+      {"Species", theCase.species},
+      {"Start (year-month-day hour)", dateText(theCase.start, theCase.startCount)},
+      {"Run length", counted(static_cast<std::uint64_t>(theCase.runHours), "hour")},
+      {"Averaging period", counted(static_cast<std::uint64_t>(theCase.averagingHours), "hour")},
+      {"Standard or increment", concentration(theCase.standardText)},
+      {"Significant impact level", concentration(theCase.silText)},
+      {"Background, first group only", concentration(theCase.backgroundText)},
+      {"Rank 1 values", theCase.excludeRank1 ? "excluded" : "included"},
+      {"Receptor file format",
+       theCase.receptorFormat == 1 ? "1 (X, Y, ID)" : "2 (rank, value, X, Y, ID)"},
+      {"Source groups", std::to_string(theCase.groups.size())},
+  };
 }
 
 }  // namespace korventally::engine

@@ -2,14 +2,17 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
+#include "engine/columns.h"
 #include "engine/control_file.h"
 #include "engine/list_file.h"
 
 namespace korventally::engine {
 
-void reportTitle(ListFile& list);
+/// `runOn`: the moment of the run, as localTimeText() gives it.
+void reportTitle(const std::string& runOn, ListFile& list);
 /// `controlFile` as it was given to the engine.
-void reportCase(const Case& theCase, const std::string& controlFile, ListFile& list);
+std::vector<Fact> factsOfCase(const Case& theCase, const std::string& controlFile);
 
 }  // namespace korventally::engine

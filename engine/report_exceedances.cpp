@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -11,7 +10,7 @@
 #include "engine/judgement.h"
 #include "engine/list_file.h"
 #include "engine/report_results.h"
-#include "engine/text.h"
+#include "engine/report_rows.h"
 
 namespace korventally::engine {
 namespace {
@@ -19,56 +18,14 @@ namespace {
 constexpr std::size_t kWidest = 132;
 constexpr const char* kBar = "      | ";
 
-// The groups named one by one below an exceedance: those that matter, and no more than can be read.
-constexpr double kSmallPercent = 1;
-constexpr std::size_t kMostNamed = 12;
-
-std::string percent(double contribution, double total) {
-  const double share = 100 * contribution / total;
-  return share < 999.95 ? fixed(share, 1) : ">999";
-}
-
-// The groups behind the facility, the largest contribution first; of equal ones the first group.
-std::vector<Place> othersOf(const Averages& averages, const Place& place) {
-  std::vector<Place> others;  // the group stands in the place of the receptor
-  for (std::size_t group = 2; group < averages.groups(); ++group) {
-    others.push_back({0, group, averages.own(group, place.block, place.receptor)});
-  }
-  std::ranges::sort(others, comesFirst);
-  return others;
-}
-
-std::size_t namedOf(const std::vector<Place>& others, double total) {
-  std::size_t named = 0;
-  while (named < std::min(others.size(), kMostNamed) &&
-         100 * others[named].value >= kSmallPercent * total) {
-    ++named;
-  }
-  // A single small one has a name too.
-  return named + 1 == others.size() ? named + 1 : named;
-}
-
-std::string cellOf(const std::string& name, double contribution, double total) {
-  return left(name, 13) + right(fixed(contribution, 4), 12) +
-         right(percent(contribution, total), 6) + " %";
-}
-
-std::vector<std::string> cellsOf(const Case& theCase, const Averages& averages,
-                                 const Place& place) {
-  const double total = averages.total(0, place.block, place.receptor);
-  const std::vector<Place> others = othersOf(averages, place);
-  const std::size_t named = namedOf(others, total);
+std::vector<std::string> cellsOf(const ExceedanceRow& row) {
   std::vector<std::string> cells;
-  cells.reserve(named + 1);
-  for (std::size_t i = 0; i < named; ++i) {
-    cells.push_back(cellOf(theCase.groups[others[i].receptor].name, others[i].value, total));
+  cells.reserve(row.named.size() + 1);
+  for (const ShareRow& share : row.named) {
+    cells.push_back(left(share.group, 13) + right(share.contribution, 12) +
+                    right(share.percent, 6) + " %");
   }
-  double rest = 0;
-  for (std::size_t i = named; i < others.size(); ++i) rest += others[i].value;
-  if (named < others.size()) {
-    cells.push_back("and " + counted(others.size() - named, "group") + ", together " +
-                    percent(rest, total) + " %");
-  }
+  if (!row.rest.empty()) cells.push_back(row.rest);
   return cells;
 }
 
@@ -86,16 +43,11 @@ void writeOthers(const std::vector<std::string>& cells, ListFile& list) {
 
 void writeExceedance(const Names& names, const Averages& averages, std::size_t number,
                      const Place& place, ListFile& list) {
-  const Case& theCase = names.theCase;
-  const double total = averages.total(0, place.block, place.receptor);
-  const double facility = averages.own(1, place.block, place.receptor);
-  list.line(right(std::to_string(number), 4) + "  " + placeColumns(names, place) +
-            right(std::to_string(averages.validHours(place.block)), 6) +
-            right(figure(total, theCase.standard), 15) + right(figure(facility, theCase.sil), 15) +
-            right(percent(facility, total), 7) +
-            right(reaches(facility, theCase.sil) ? "yes" : "no", 5) +
-            right(fixed(averages.leftOver(place.block, place.receptor), 4), 13));
-  writeOthers(cellsOf(theCase, averages, place), list);
+  const ExceedanceRow row = exceedanceRow(names, averages, place);
+  list.line(right(std::to_string(number), 4) + "  " + placeColumns(names, row.place) +
+            right(row.hours, 6) + right(row.total, 15) + right(row.facility, 15) +
+            right(row.percent, 7) + right(row.significant, 5) + right(row.leftOver, 13));
+  writeOthers(cellsOf(row), list);
 }
 
 void writeTable(const Names& names, const Averages& averages, const std::vector<Place>& places,
@@ -121,18 +73,9 @@ void explainColumns(const Case& theCase, ListFile& list) {
   for (const std::string& line : wrapped(text)) list.line(line);
 }
 
-std::uint64_t significantAmong(const Names& names, const Averages& averages,
-                               const std::vector<Place>& places) {
-  const auto significant = [&](const Place& place) {
-    return reaches(averages.own(1, place.block, place.receptor), names.theCase.sil);
-  };
-  return static_cast<std::uint64_t>(std::ranges::count_if(places, significant));
-}
-
-// The table shows the first of them; what it leaves out is smaller or equal.
 void countMore(std::uint64_t all, std::size_t shown, const char* noun, ListFile& list) {
-  if (all > shown)
-    list.line("  and " + counted(all - shown, noun) + " more, all of them smaller or equal.");
+  const std::string more = moreText(all, shown, noun);
+  if (!more.empty()) list.line("  " + more);
 }
 
 }  // namespace
@@ -150,7 +93,7 @@ void reportExceedances(const Names& names, const Averages& averages, const Judge
   writeTable(names, averages, exceedances.largest, list);
   countMore(exceedances.count, exceedances.largest.size(), "exceedance", list);
   list.line();
-  if (significantAmong(names, averages, exceedances.largest) == exceedances.significant) return;
+  if (!hidesSignificant(names, averages, judgement)) return;
   list.line("SIGNIFICANT EXCEEDANCES, the largest contribution of " + names.theCase.groups[1].name +
             " first");
   writeTable(names, averages, exceedances.contributions, list);

@@ -7,6 +7,7 @@
 
 #include "engine/averages.h"
 #include "engine/blocks.h"
+#include "engine/columns.h"
 #include "engine/concentration_file.h"
 #include "engine/control_file.h"
 #include "engine/coordinates.h"
@@ -15,6 +16,8 @@
 #include "engine/receptor_file.h"
 
 namespace korventally::engine {
+
+struct PlaceRow;
 
 /// What the tables need to name a value. The first three must outlive the report.
 struct Names {
@@ -30,14 +33,16 @@ void reportReceptorFile(const Case& theCase, const Receptors& receptors, std::in
                         ListFile& list);
 void reportGroupFile(const SourceGroup& group, const GroupSums& sums, std::int64_t written,
                      ListFile& list);
-/// `more` are lines to add to the section.
-void reportAverages(const Case& theCase, const Blocks& blocks, const std::vector<std::string>& more,
-                    ListFile& list);
+/// How the averages were formed, a line each; `more` are lines to add to them.
+std::vector<std::string> linesOfAverages(const Case& theCase, const Blocks& blocks,
+                                         const std::vector<std::string>& more);
+void reportAverages(const std::vector<std::string>& lines, ListFile& list);
 
 /// The counts, and the number that the case rests on: the facility's largest contribution.
-/// `table` says where every exceedance is found; it may be empty.
-void reportJudgement(const Names& names, const Averages& averages, const Judgement& judgement,
-                     const std::string& table, ListFile& list);
+std::vector<Fact> factsOfJudgement(const Names& names, const Averages& averages,
+                                   const Judgement& judgement);
+/// A section of facts; one without a value is left out.
+void reportFacts(const char* title, const std::vector<Fact>& facts, ListFile& list);
 void reportWarnings(const std::vector<std::string>& warnings, ListFile& list);
 void reportMaxima(const Names& names, const Judgement& judgement, ListFile& list);
 
@@ -50,7 +55,7 @@ void reportReceptors(const Names& names, const Judgement& judgement, ListFile& l
 void reportLeftOut(const Names& names, const Judgement& judgement, ListFile& list);
 
 /// "R07           600.0    -600.0  2009-01-14 00": receptor, X, Y and first hour of a value.
-std::string placeColumns(const Names& names, const Place& place);
+std::string placeColumns(const Names& names, const PlaceRow& row);
 std::string placeHeadings(const Names& names);
 
 }  // namespace korventally::engine
