@@ -23,11 +23,13 @@
 #include "engine/group_reader.h"
 #include "engine/judgement.h"
 #include "engine/list_file.h"
+#include "engine/page/page.h"
 #include "engine/ranked_values.h"
 #include "engine/receptor_file.h"
 #include "engine/report_case.h"
 #include "engine/report_hours.h"
 #include "engine/report_results.h"
+#include "engine/side_file.h"
 #include "engine/system_files.h"
 #include "engine/text.h"
 #include "engine/valid_hours.h"
@@ -38,6 +40,21 @@ namespace korventally::engine {
 namespace {
 
 using Clock = std::chrono::steady_clock;
+
+// What stands beside the list file, and the head of the list file, which the page shows too.
+struct Beside {
+  Beside(const ControlText& text, const NativePath& controlFile)
+      : Beside(text, controlFile, listFileOf(text) + ".csv", listFileOf(text) + ".html") {}
+  Beside(const ControlText& text, const NativePath& controlFile, const std::string& tableFile,
+         const std::string& pageFile)
+      : table(tableFile, roleOf(tableFile, text, controlFile)),
+        page(pageFile, roleOf(pageFile, text, controlFile), kPageMark) {}
+
+  ExceedanceFile table;
+  SideFile page;
+  std::string runOn = localTimeText(secondsNow());
+  std::vector<Fact> ofCase;
+};
 
 // The file that a line of the control file names; a fault says which line that was.
 std::unique_ptr<InputFile> openNamedFile(const std::string& path, std::size_t controlLine) {
@@ -112,25 +129,36 @@ std::vector<std::string> allWarnings(const Names& names, const Receptors& recept
   return warnings;
 }
 
+// Says where the file is, or warns that there is none; `what` it would have been.
+std::string told(const std::string& name, const std::string& problem, const std::string& what,
+                 std::vector<std::string>& warnings) {
+  if (problem.empty()) return name;
+  warnings.push_back("No " + what + " was written: " + problem);
+  return {};
+}
+
 void reportResults(const Names& names, const Receptors& receptors,
-                   const std::vector<GroupSums>& groups, const RunHours& hours,
-                   ExceedanceFile& table, ListFile& list) {
+                   const std::vector<GroupSums>& groups, const RunHours& hours, Beside& beside,
+                   ListFile& list) {
   const Blocks& blocks = names.blocks;
   const Averages averages(names.theCase, blocks, groups, names.receptors.size(),
                           validHoursOfBlocks(blocks, hours));
   std::vector<std::string> ofHours = linesOfClock(blocks);
   std::ranges::move(linesOfMarkedHours(blocks, hours, averages), std::back_inserter(ofHours));
-  reportAverages(linesOfAverages(names.theCase, blocks, ofHours), list);
+  const std::vector<std::string> ofAverages = linesOfAverages(names.theCase, blocks, ofHours);
+  reportAverages(ofAverages, list);
+  ExceedanceFile& table = beside.table;
   const Judgement judgement = judgeInto(table, names, averages);
   std::vector<std::string> warnings =
       allWarnings(names, receptors, groups, hours, averages, judgement);
-  std::string where = table.name() + ", " + counted(table.rows(), "row");
-  if (!table.problem().empty()) {
-    warnings.push_back("No table of every exceedance was written: " + table.problem());
-    where.clear();
-  }
   std::vector<Fact> facts = factsOfJudgement(names, averages, judgement);
-  facts.push_back({"Every exceedance", where});
+  facts.push_back(
+      {"Every exceedance", told(table.name() + ", " + counted(table.rows(), "row"), table.problem(),
+                                "table of every exceedance", warnings)});
+  writePage({names, averages, hours, judgement, beside.ofCase, ofAverages, facts, warnings},
+            beside.runOn, beside.page);
+  facts.push_back(
+      {"In pictures", told(beside.page.name(), beside.page.problem(), "page", warnings)});
   reportFacts("JUDGEMENT", facts, list);
   reportWarnings(warnings, list);
   reportMaxima(names, judgement, list);
@@ -139,7 +167,7 @@ void reportResults(const Names& names, const Receptors& receptors,
   reportLeftOut(names, judgement, list);
 }
 
-void compute(const Case& theCase, ExceedanceFile& table, ListFile& list, const Watcher& watcher) {
+void compute(const Case& theCase, Beside& beside, ListFile& list, const Watcher& watcher) {
   const auto begin = Clock::now();
   Blocks blocks = planBlocks(theCase);
   const auto files = openGroups(theCase);
@@ -152,7 +180,7 @@ void compute(const Case& theCase, ExceedanceFile& table, ListFile& list, const W
   const std::vector<GroupSums> groups = readAll(theCase, files, blocks, receptors, list, watcher);
   blocks.hourCount = agreeOnClock(theCase, groups);
   const RunHours hours = agreeOnHours(theCase, blocks, groups);
-  reportResults({theCase, blocks, receptors.list}, receptors, groups, hours, table, list);
+  reportResults({theCase, blocks, receptors.list}, receptors, groups, hours, beside, list);
   reportElapsed(begin, list);
 }
 
@@ -172,14 +200,15 @@ std::string sentenceOf(const Work& work) noexcept {
 Result runIntoListFile(const ControlText& text, const NativePath& controlFile, ListFile& list,
                        const Watcher& watcher) {
   const std::string sentence = sentenceOf([&] {
-    const std::string tableFile = listFileOf(text) + ".csv";
-    ExceedanceFile table(tableFile, roleOf(tableFile, text, controlFile));
-    reportTitle(localTimeText(secondsNow()), list);
+    Beside beside(text, controlFile);
+    reportTitle(beside.runOn, list);
     const Case theCase = parseControl(text);
-    reportFacts("CASE", factsOfCase(theCase, textFromPath(controlFile)), list);
-    compute(theCase, table, list, watcher);
+    beside.ofCase = factsOfCase(theCase, textFromPath(controlFile));
+    reportFacts("CASE", beside.ofCase, list);
+    compute(theCase, beside, list, watcher);
     list.complete();
-    table.keep();
+    beside.table.keep();
+    beside.page.keep();
   });
   if (sentence.empty()) return {Outcome::kCompleted, "", listFileOf(text)};
   if (!list.fail(sentence)) return {Outcome::kNoListFile, sentence, ""};

@@ -51,11 +51,11 @@ ExceedanceCount::ExceedanceCount(const Case& theCase, const Averages& averages, 
 }
 
 void ExceedanceCount::judge(const Place& place) {
+  AtReceptor& at = result_.atReceptors[place.receptor];
+  raise(at.highest, place, false);
   if (!exceeds(place.value, case_.standard)) return;
   const double facility = averages_.own(1, place.block, place.receptor);
   const Place contribution{place.block, place.receptor, facility};
-  AtReceptor& at = result_.atReceptors[place.receptor];
-  raise(at.highest, place, at.exceedances == 0);
   raise(at.contribution, contribution, at.exceedances == 0);
   ++at.exceedances;
   ++result_.count;

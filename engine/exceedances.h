@@ -13,12 +13,12 @@ namespace korventally::engine {
 
 inline constexpr std::size_t kMostExceedancesListed = 50;
 
-/// A receptor's exceedances; the places say nothing where there is none.
+/// What was judged at a receptor.
 struct AtReceptor {
   std::uint64_t exceedances = 0;
   std::uint64_t significant = 0;
-  Place highest;       ///< value: the total
-  Place contribution;  ///< value: the facility's largest contribution to any of them
+  Place highest{0, 0, -1};  ///< value: the highest total that was judged; below zero for none
+  Place contribution;       ///< value: the facility's largest contribution to an exceedance, if any
 };
 
 struct Exceedances {

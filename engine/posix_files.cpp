@@ -60,6 +60,8 @@ NativePath pathFromText(std::string_view text) { return NativePath(std::string(t
 
 std::string textFromPath(const NativePath& path) { return path.native(); }
 
+std::string utf8FromText(std::string_view text) { return std::string(text); }
+
 bool sameFile(const NativePath& one, const NativePath& other) {
   struct stat first, second;
   if (::stat(one.c_str(), &first) != 0 || ::stat(other.c_str(), &second) != 0) return false;

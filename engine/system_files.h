@@ -24,6 +24,10 @@ NativePath pathFromText(std::string_view text);
 /// The path as bytes for a message; characters that the code page lacks come out as "?".
 std::string textFromPath(const NativePath& path);
 
+/// Text in the ANSI code page as UTF-8; bytes that are no text there become U+FFFD. Elsewhere bytes
+/// are bytes, and whether they are UTF-8 is not looked at.
+std::string utf8FromText(std::string_view text);
+
 /// True when both paths lead to one existing file, however they are spelled.
 bool sameFile(const NativePath& one, const NativePath& other);
 

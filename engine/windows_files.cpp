@@ -17,14 +17,24 @@ namespace {
 
 HANDLE asHandle(std::intptr_t handle) { return reinterpret_cast<HANDLE>(handle); }
 
-std::string toNarrow(std::wstring_view text) {
+std::string toNarrow(std::wstring_view text, UINT codePage = CP_ACP) {
   const auto length = static_cast<int>(text.size());
   if (length == 0) return {};
   const int size =
-      WideCharToMultiByte(CP_ACP, 0, text.data(), length, nullptr, 0, nullptr, nullptr);
+      WideCharToMultiByte(codePage, 0, text.data(), length, nullptr, 0, nullptr, nullptr);
   std::string narrow(static_cast<std::size_t>(size), '?');
-  WideCharToMultiByte(CP_ACP, 0, text.data(), length, narrow.data(), size, nullptr, nullptr);
+  WideCharToMultiByte(codePage, 0, text.data(), length, narrow.data(), size, nullptr, nullptr);
   return narrow;
+}
+
+// Empty when the flags ask for text in the ANSI code page and the bytes are none.
+std::wstring toWide(std::string_view text, DWORD flags) {
+  const auto length = static_cast<int>(text.size());
+  if (length == 0) return {};
+  const int size = MultiByteToWideChar(CP_ACP, flags, text.data(), length, nullptr, 0);
+  std::wstring wide(static_cast<std::size_t>(size), L'\0');
+  MultiByteToWideChar(CP_ACP, flags, text.data(), length, wide.data(), size);
+  return wide;
 }
 
 std::string systemText(DWORD error) {
@@ -127,17 +137,16 @@ BOOL WINAPI onConsoleEvent(DWORD) {
 }  // namespace
 
 NativePath pathFromText(std::string_view text) {
-  const auto length = static_cast<int>(text.size());
-  if (length == 0) return {};
-  const int size =
-      MultiByteToWideChar(CP_ACP, MB_ERR_INVALID_CHARS, text.data(), length, nullptr, 0);
-  if (size == 0) throw Fault("A path is not text in the code page of this system.");
-  std::wstring wide(static_cast<std::size_t>(size), L'\0');
-  MultiByteToWideChar(CP_ACP, MB_ERR_INVALID_CHARS, text.data(), length, wide.data(), size);
+  const std::wstring wide = toWide(text, MB_ERR_INVALID_CHARS);
+  if (wide.empty() && !text.empty()) {
+    throw Fault("A path is not text in the code page of this system.");
+  }
   return NativePath(wide);
 }
 
 std::string textFromPath(const NativePath& path) { return toNarrow(path.native()); }
+
+std::string utf8FromText(std::string_view text) { return toNarrow(toWide(text, 0), CP_UTF8); }
 
 bool sameFile(const NativePath& one, const NativePath& other) {
   const HANDLE first = open(one, 0, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS);

@@ -6,7 +6,9 @@ ENGINE is the program, or a command in front of it (wine path/to/korventally.exe
 
 Every study is computed here with exact fractions from the very texts that the files hold, then
 the engine's list file is read as a user would read it: maxima, counts, exceedances with their
-contributions, receptors, averages left out, warnings; and the table of every exceedance beside it. Exit status 1 and the study's folder on a difference.
+contributions, receptors, averages left out, warnings; the table of every exceedance beside it; and
+the page beside it, which must show the list file's figures. Exit status 1 and the study's folder on
+a difference.
 """
 import argparse
 import csv
@@ -19,6 +21,7 @@ import shutil
 import subprocess
 import sys
 import tempfile
+import xml.etree.ElementTree
 from fractions import Fraction
 
 LINE = " " * 29 + ":"
@@ -467,6 +470,57 @@ def check_csv(study, exceeding):
             need(abs(Fraction(shown) - value) <= value / 10**11, "CSV: %s for %s" % (shown, float(value)))
 
 
+def words(element):
+    return " ".join("".join(part.itertext()).replace("\u00b5g", "ug").replace("g/m\u00b3", "g/m**3")
+                    for part in element).split()
+
+
+def check_page(study, lines):
+    """Every tag is closed, every drawing is told in words, every figure is the list file's."""
+    page = xml.etree.ElementTree.parse(study.folder / "out.lst.html").getroot()
+    for svg in page.iter("svg"):
+        need(svg.get("role") == "img" and svg.get("viewBox").startswith("0 0 640 ")
+             and [part.tag for part in svg[:2]] == ["title", "desc"] and svg[0].text and svg[1].text,
+             "words for a drawing")
+    need(len(list(page.iter("svg"))) == 3, "drawings")
+    need(len(list(page.iter("use"))) == study.receptors, "marks of the map")
+    check_page_tables(page, lines)
+    check_page_facts(page, lines)
+
+
+def check_page_tables(page, lines):
+    shown = {table.find("caption").get("id"): table for table in page.iter("table")}
+    exceed = "EXCEEDANCES, the largest first"
+    for name, title, skipped in (("maxima", "HIGHEST", 2), ("exceedances", exceed, None),
+                                 ("significant", "SIGNIFICANT EXC", None),
+                                 ("receptors", "RECEPTORS THAT", 3), ("left-out", "RANK 1 AVER", 1)):
+        rows = section(lines, title) if any(line.startswith(title) for line in lines) else ["  None."]
+        need((name in shown) == (rows != ["  None."]), "page: table " + name)
+        if name not in shown:
+            continue
+        if skipped is None:
+            skipped = next(i for i, row in enumerate(rows) if row.startswith("---")) + 1
+        rows = [row for row in rows[skipped:] if not row.startswith("  and ")]
+        listed = " ".join(rows).replace("      | ", " ").split()
+        on_page = [word.rstrip(";") for row in shown[name].iter("tr") for word in words(row.findall("td"))]
+        need(on_page == listed, "page: figures of " + name)
+        heads = shown[name].find("thead").findall("tr/th")
+        need(all(head.get("scope") == "col" for head in heads)
+             and {sum(int(cell.get("colspan", 1)) for cell in row) for row in shown[name].find("tbody")} == {len(heads)}, "page: columns of " + name)
+
+
+def check_page_facts(page, lines):
+    facts = {"".join(div[0].itertext()).strip(): " ".join(words([div[1]])) for div in page.iter("div")
+             if div.find("dt") is not None}
+    for line in section(lines, "CASE") + section(lines, "JUDGEMENT"):
+        label, value = line.strip().split(":", 1)
+        need(label == "In pictures" or facts.get(label) == " ".join(value.split()), "page: " + label)
+    warnings = [item for part in page.iter("section") if part.get("class") == "warnings"
+                for item in part.iter("li")]
+    listed = " ".join(section(lines, "WARNINGS")).split()
+    need((words(warnings) or ["None."]) == listed, "page: warnings")
+
+
 def check_misfit(study, lines):
     count, worst = 0, 0
     for b in range(study.blocks):
@@ -528,6 +582,7 @@ def check(study, engine):
     check_maxima(study, lines)
     check_judgement(study, lines)
     check_misfit(study, lines)
+    check_page(study, lines)
     if study.receptor_format == "2":
         check_ranked(study, lines)
 

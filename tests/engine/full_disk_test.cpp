@@ -57,8 +57,9 @@ TEST(FullDisk, NeverCompletesAndSaysSoWhereverTheSpaceEnds) {
   }
 }
 
-// The table of every exceedance is larger than the list file: there is room for this one alone.
-TEST(FullDisk, CostsTheTableOfExceedancesAndNotTheVerdict) {
+// The table of every exceedance is larger than the page, and that than the list file: there is room
+// for some of them only.
+TEST(FullDisk, CostsWhatStandsBesideTheListFileAndNotTheVerdict) {
   Study study;
   study.line(4) = "3000";
   study.line(14) = "1";
@@ -66,15 +67,21 @@ TEST(FullDisk, CostsTheTableOfExceedancesAndNotTheVerdict) {
     study.writeHours(name, std::vector<std::string>(3000, "1E-5 9E-6"));
   }
   study.writeControl();
-  for (const rlim_t bytes : {65536u, 65540u, 200000u}) {
+  const struct {
+    rlim_t bytes;
+    bool page, table;
+  } rows[] = {{65540, false, false}, {200000, true, false}, {1000000, true, true}};
+  for (const auto& row : rows) {
     {
-      const Limit limit(bytes);
+      const Limit limit(row.bytes);
       EXPECT_EQ(runCase(study.path("korventally.inp")).outcome, Outcome::kCompleted);
     }
-    expectSays(study.read("out.lst"),
-               {"No table of every exceedance was written: The",
-                "Exceedances:                  6,000 (", "\r\nRUN COMPLETED"});
-    EXPECT_FALSE(std::filesystem::exists(study.path("out.lst.csv")));
+    const std::string list = study.read("out.lst");
+    expectSays(list, {"Exceedances:                  6,000 (", "\r\nRUN COMPLETED"});
+    EXPECT_EQ(list.find("No table of every exceedance was written: The") == list.npos, row.table);
+    EXPECT_EQ(list.find("No page was written: The") == list.npos, row.page);
+    EXPECT_EQ(std::filesystem::exists(study.path("out.lst.csv")), row.table);
+    EXPECT_EQ(std::filesystem::exists(study.path("out.lst.html")), row.page);
   }
 }
 
