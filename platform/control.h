@@ -14,7 +14,7 @@ class Container;
 class Window;
 
 /// What of a control has changed, for the view that shows it.
-enum class Aspect { kEnabled, kVisible, kText, kBackColor, kValue, kSelection };
+enum class Aspect { kEnabled, kVisible, kText, kBackColor, kValue, kSelection, kTakesFiles };
 
 /// A control of a window: its state and its events. Back ends only show that state and report what
 /// the user does; setting state from code raises no event of the user's.

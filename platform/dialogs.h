@@ -14,7 +14,7 @@ enum class Answer { kOk, kYes, kNo };
 Answer messageBox(Window* owner, const std::string& text, const std::string& title,
                   Buttons buttons = Buttons::kOk);
 
-/// The titles: of every message about wrong input or a failure, and of every question.
+/// The titles: of every message about wrong input or a failure; of every question and warning.
 inline constexpr const char* kErrorTitle = "Error";
 inline constexpr const char* kWarningTitle = "Warning";
 

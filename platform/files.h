@@ -15,6 +15,9 @@ namespace korventally {
 /// one, which begins with "\\?\", is taken as it stands. No path leads to a device: all functions
 /// take it for one that names nothing, or fail.
 
+/// The path counted from a drive or server. What names nothing stays as it is.
+std::string absolutePath(const std::string& path);
+
 /// Whether an ordinary file of that name exists: no folder, not hidden, not of Windows. Wildcard
 /// characters never match.
 bool fileExists(const std::string& path);

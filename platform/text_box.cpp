@@ -3,11 +3,14 @@
 #include <cstdint>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "platform/container.h"
 #include "platform/control.h"
+#include "platform/files.h"
 #include "platform/font.h"
 #include "platform/geometry.h"
+#include "platform/window.h"
 
 namespace korventally {
 namespace {
@@ -35,6 +38,16 @@ bool TextBox::acceptsKey(std::int16_t keyCode) {
     if (onKeyPress) onKeyPress(keyCode);
   });
   return keyCode != 0 && keyCode != kEnter;
+}
+
+void TextBox::dropFiles(const std::vector<std::string>& paths) {
+  if (!takesPath_ || !usable() || paths.empty()) return;
+  if (takesFolder_ && window().takesFiles() && fileExists(paths.front())) {
+    return window().dropFiles(paths);
+  }
+  window().setFocus(*this);
+  // Whole, however long it is: the limit is one of typing, and a path cut short leads nowhere.
+  setText(paths.front());
 }
 
 }  // namespace korventally

@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "platform/container.h"
 #include "platform/control.h"
@@ -39,6 +40,9 @@ class TextBox : public Control {
   /// file dropped on the box fills it.
   bool takesPath() const { return takesPath_; }
   void setTakesPath() { takesPath_ = true; }
+  /// The path can only be that of a folder: a file dropped on the box goes to the window instead,
+  /// if that takes files.
+  void setTakesFolder() { takesPath_ = takesFolder_ = true; }
 
   /// Marks the whole text, so that typing replaces it.
   void selectAll() { changed(Aspect::kSelection); }
@@ -46,6 +50,8 @@ class TextBox : public Control {
   /// A keystroke of the user's: runs `onKeyPress` and says whether the character may reach the
   /// box. Enter never does, since the box is a single line.
   bool acceptsKey(std::int16_t keyCode);
+  /// The user has dropped files or folders on the box: the full path of the first fills it.
+  void dropFiles(const std::vector<std::string>& paths);
   /// The user has edited the text; the view shows it already.
   void edited(std::string text) { text_ = std::move(text); }
 
@@ -53,6 +59,7 @@ class TextBox : public Control {
   int limit_;
   std::string placeholder_;
   bool takesPath_ = false;
+  bool takesFolder_ = false;
 };
 
 }  // namespace korventally

@@ -41,6 +41,7 @@ void Window::show(Window* owner) {
   mutableOpenWindows().push_back(this);
   view_ = createWindowView(*this, owner);
   if (open_) moveFocus();
+  if (open_) runGuarded(this, [this] { shown(); });
   runEventsWhile([this] { return open_; });
   view_.reset();
 }
@@ -82,6 +83,17 @@ void Window::settleFocus() {
   } else {
     moveFocus();
   }
+}
+
+void Window::setTakesFiles(bool takes) {
+  if (takesFiles_ == takes) return;
+  takesFiles_ = takes;
+  changed(Aspect::kTakesFiles);
+}
+
+void Window::dropFiles(const std::vector<std::string>& paths) {
+  if (!takesFiles_ || paths.empty()) return;
+  runGuarded(this, [&] { filesDropped(paths); });
 }
 
 bool Window::isTabStop(const Control& control) {

@@ -52,6 +52,11 @@ class Window : public Container {
   /// the new one. Leaving for another window is no move.
   void focusMovedTo(Control& control);
 
+  /// Whether the user can drop files on the window, anywhere but on a box that keeps them.
+  bool takesFiles() const { return takesFiles_; }
+  /// The user has dropped files or folders there: their full paths.
+  void dropFiles(const std::vector<std::string>& paths);
+
   /// Whether Esc closes the window, as the close box does.
   virtual bool closesOnEscape() const { return false; }
   /// Why the session should wait before it ends, one sentence; empty when nothing is in progress.
@@ -67,6 +72,10 @@ class Window : public Container {
 
  protected:
   virtual void Form_Load() {}
+  /// The window is on the screen and usable: a message about its start stands over it.
+  virtual void shown() {}
+  /// One file or more, while the window takes files.
+  virtual void filesDropped(const std::vector<std::string>& /*paths*/) {}
   /// Whether the user may close the window now.
   virtual bool queryUnload() { return true; }
   virtual void Form_Unload() {}
@@ -76,6 +85,7 @@ class Window : public Container {
   /// Whether Tab stops at the control now.
   static bool isTabStop(const Control& control);
 
+  void setTakesFiles(bool takes);
   void setMenus(std::vector<Menu> menus) { menus_ = std::move(menus); }
   /// The order in which Tab visits the controls, round its end. Of a group of option buttons it
   /// visits one: see `OptionButton::standsForGroup`.
@@ -89,6 +99,7 @@ class Window : public Container {
   std::unique_ptr<WindowView> view_;
   Control* focused_ = nullptr;
   bool open_ = false;
+  bool takesFiles_ = false;
 };
 
 }  // namespace korventally

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "platform/text_box.h"
 #include "platform/window.h"
@@ -17,6 +18,9 @@ void paste(TextBox& box, const std::string& text);
 enum class Key { kTab, kShiftTab, kEnter, kBackspace, kEscape, kSpace, kUp, kDown, kLeft, kRight };
 /// Presses a key in the control that has the focus.
 void press(Window& window, Key key);
+/// Drops files or folders, full paths, on a control or on a window, as from another program. What
+/// takes none there leaves them to what is around it.
+void drop(Control& on, const std::vector<std::string>& paths);
 /// Clicks the window's close box.
 void clickCloseBox(Window& window);
 

@@ -89,6 +89,12 @@ class Reader : public FileReader {
 
 }  // namespace
 
+std::string absolutePath(const std::string& path) {
+  const auto full = resolve(path);
+  if (!full) return path;
+  return full.value().namesFolder ? full.value().text + '\\' : full.value().text;
+}
+
 bool fileExists(const std::string& path) {
   const auto full = resolve(path);
   if (!full || full.value().namesFolder) return false;

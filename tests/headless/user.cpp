@@ -142,6 +142,13 @@ void press(Window& window, Key key) {
   if (control != nullptr && control->usable()) pressInControl(*control, key);
 }
 
+void drop(Control& on, const std::vector<std::string>& paths) {
+  if (!inReach(on.window())) return;
+  auto* const box = on.kind() == Control::Kind::kTextBox ? static_cast<TextBox*>(&on) : nullptr;
+  if (box != nullptr && box->takesPath() && box->usable()) return box->dropFiles(paths);
+  on.window().dropFiles(paths);
+}
+
 void clickCloseBox(Window& window) {
   if (inReach(window)) window.requestClose();
 }

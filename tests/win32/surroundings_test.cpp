@@ -1,8 +1,5 @@
 #include <gtest/gtest.h>
 #include <windows.h>
-// Needs the types of the header above.
-#include <shellapi.h>
-#include <shlobj.h>
 
 #include <atomic>
 #include <chrono>
@@ -24,26 +21,6 @@ namespace {
 
 using win32::nativeHandle;
 
-/// Files as Explorer hands them to the window that they are dropped on.
-HDROP dropped(const std::wstring& path) {
-  const std::size_t bytes = (path.size() + 2) * sizeof(wchar_t);
-  HGLOBAL memory = GlobalAlloc(GHND, sizeof(DROPFILES) + bytes);
-  auto* header = static_cast<DROPFILES*>(GlobalLock(memory));
-  header->pFiles = sizeof(DROPFILES);
-  header->fWide = TRUE;
-  path.copy(reinterpret_cast<wchar_t*>(header + 1), path.size());
-  GlobalUnlock(memory);
-  return static_cast<HDROP>(memory);
-}
-
-void drop(const Control& on, const std::wstring& path) {
-  SendMessageW(nativeHandle(on), WM_DROPFILES, reinterpret_cast<WPARAM>(dropped(path)), 0);
-}
-
-bool acceptsFiles(const Control& control) {
-  return GetWindowLongW(nativeHandle(control), GWL_EXSTYLE) & WS_EX_ACCEPTFILES;
-}
-
 SIZE outerSize(const Control& control) {
   RECT area;
   GetWindowRect(nativeHandle(control), &area);
@@ -62,25 +39,6 @@ class Surroundings : public ::testing::Test {
   World world;
   Form form;
 };
-
-TEST_F(Surroundings, DroppedFilesFillABoxForPaths) {
-  form.box.setTakesPath();
-  form.box.setText("before");
-  form.open([&] {
-    EXPECT_TRUE(acceptsFiles(form.box));
-    EXPECT_FALSE(acceptsFiles(form.shortBox));
-    drop(form.box, L"C:\\Grün & Co\\a.con");
-    EXPECT_EQ(form.box.text(), "C:\\Grün & Co\\a.con");
-    EnableWindow(nativeHandle(form), FALSE);  // as under a modal window
-    drop(form.box, L"C:\\other");
-    EnableWindow(nativeHandle(form), TRUE);
-    form.box.setEnabled(false);
-    drop(form.box, L"C:\\other");
-    EXPECT_EQ(form.box.text(), "C:\\Grün & Co\\a.con");
-    drop(form.shortBox, L"C:\\longer");
-    EXPECT_EQ(form.shortBox.text(), "C:\\longer") << "the limit is one of typing";
-  });
-}
 
 TEST_F(Surroundings, ScreensOfOtherResolutionsScaleEverything) {
   form.open([&] {

@@ -1,6 +1,8 @@
 #include "tests/user.h"
 
 #include <windows.h>
+// Needs the types of the header above.
+#include <shlobj.h>
 
 #include "driver/input.h"
 #include "platform/events.h"
@@ -79,6 +81,20 @@ WPARAM codeOf(Key key) {
   return 0;
 }
 
+/// Files as Explorer hands them over: a header, then the paths, each ended by a zero, then another.
+HGLOBAL dropOf(const std::vector<std::string>& paths) {
+  std::wstring list;
+  for (const std::string& path : paths) list += win32::toWide(path) + L'\0';
+  const std::size_t bytes = (list.size() + 1) * sizeof(wchar_t);
+  HGLOBAL memory = GlobalAlloc(GHND, sizeof(DROPFILES) + bytes);
+  auto* header = static_cast<DROPFILES*>(GlobalLock(memory));
+  header->pFiles = sizeof(DROPFILES);
+  header->fWide = TRUE;
+  list.copy(reinterpret_cast<wchar_t*>(header + 1), list.size());
+  GlobalUnlock(memory);
+  return memory;
+}
+
 }  // namespace
 
 void click(Control& control) {
@@ -118,6 +134,19 @@ void press(Window& window, Key key) {
   setShift(key == Key::kShiftTab);
   pressKey(focused, codeOf(key));
   setShift(false);
+}
+
+void drop(Control& on, const std::vector<std::string>& paths) {
+  const auto takes = [](HWND window) {
+    return IsWindowEnabled(window) && (GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_ACCEPTFILES);
+  };
+  // Explorer looks for one that takes files no further than up to the window as a whole, and hands
+  // them to that even while it lies under a modal one.
+  HWND root = nativeHandle(on.window());
+  HWND at = nativeHandle(on);
+  while (at != root && !takes(at)) at = GetAncestor(at, GA_PARENT);
+  if (!(GetWindowLongW(at, GWL_EXSTYLE) & WS_EX_ACCEPTFILES)) return;
+  post(at, WM_DROPFILES, reinterpret_cast<WPARAM>(dropOf(paths)), 0);
 }
 
 void clickCloseBox(Window& window) {

@@ -91,6 +91,8 @@ class Win32FileReader : public FileReader {
 
 }  // namespace
 
+std::string absolutePath(const std::string& path) { return win32::fullPath(path); }
+
 bool fileExists(const std::string& path) {
   if (!leadsToFiles(path)) return false;
   constexpr DWORD kNotOrdinary = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_HIDDEN |

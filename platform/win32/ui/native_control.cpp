@@ -72,6 +72,7 @@ void NativeControl::refresh(Aspect aspect) {
       break;
     case Aspect::kValue:
     case Aspect::kSelection:
+    case Aspect::kTakesFiles:
       break;
   }
 }

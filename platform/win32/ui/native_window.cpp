@@ -20,6 +20,7 @@
 #include "platform/win32/ui/native_control.h"
 #include "platform/win32/ui/native_lookup.h"
 #include "platform/win32/ui/resource_ids.h"
+#include "platform/win32/ui/system_headers.h"
 #include "platform/window.h"
 
 namespace korventally::win32 {
@@ -68,6 +69,7 @@ NativeWindow::NativeWindow(Window& window, HWND owner)
     fit(true);
   }
   SendMessageW(handle_, WM_CHANGEUISTATE, UIS_INITIALIZE, 0);
+  DragAcceptFiles(handle_, window_.takesFiles());
   views().push_back(this);
   if (owner_ != nullptr) EnableWindow(owner_, FALSE);
   ShowWindow(handle_, SW_SHOWNORMAL);
@@ -169,6 +171,7 @@ HWND NativeWindow::handleOf(const Control& control) const {
 void NativeWindow::refresh(const Control& control, Aspect aspect) {
   const auto found = controls_.find(&control);
   if (found == controls_.end()) {
+    if (aspect == Aspect::kTakesFiles) DragAcceptFiles(handle_, window_.takesFiles());
     if (aspect == Aspect::kText) SetWindowTextW(handle_, toWide(window_.text()).c_str());
     return;
   }

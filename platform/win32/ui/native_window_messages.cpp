@@ -2,6 +2,7 @@
 #include <utility>
 
 #include "platform/win32/ui/colors.h"
+#include "platform/win32/ui/dropped_files.h"
 #include "platform/win32/ui/gdi.h"
 #include "platform/win32/ui/menu_bar.h"
 #include "platform/win32/ui/native_control.h"
@@ -42,6 +43,9 @@ std::optional<LRESULT> NativeWindow::handleInput(UINT message, WPARAM first, LPA
     case WM_CLOSE:
       // Others may ask for it while a message box or another window lies over this one.
       if (IsWindowEnabled(handle_)) window_.requestClose();
+      return 0;
+    case WM_DROPFILES:
+      window_.dropFiles(takeDrop(handle_, first));
       return 0;
     case WM_SETFOCUS:
       restoreFocus();

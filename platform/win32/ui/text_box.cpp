@@ -10,10 +10,10 @@
 #include "platform/win32/system/text.h"
 #include "platform/win32/ui/clipboard.h"
 #include "platform/win32/ui/colors.h"
+#include "platform/win32/ui/dropped_files.h"
 #include "platform/win32/ui/native_control.h"
 #include "platform/win32/ui/system_headers.h"
 #include "platform/win32/ui/text_margins.h"
-#include "platform/window.h"
 
 namespace korventally::win32 {
 namespace {
@@ -32,14 +32,6 @@ std::wstring textOf(HWND window) {
 std::wstring firstLine(std::wstring text) {
   text.resize(std::min(text.find_first_of(L"\r\n"), text.size()));
   return text;
-}
-
-/// The first of the files that were dropped.
-std::wstring takeDroppedFile(HDROP drop) {
-  std::wstring path(DragQueryFileW(drop, 0, nullptr, 0) + 1, L'\0');
-  path.resize(DragQueryFileW(drop, 0, path.data(), static_cast<UINT>(path.size())));
-  DragFinish(drop);
-  return path;
 }
 
 class NativeTextBox : public NativeControl {
@@ -74,7 +66,7 @@ class NativeTextBox : public NativeControl {
         if (box_.takesPath() && pasteWithoutQuotes()) return 0;
         break;
       case WM_DROPFILES:
-        drop(takeDroppedFile(reinterpret_cast<HDROP>(first)));
+        if (!stage().closed()) box_.dropFiles(takeDrop(handle(), first));
         return 0;
     }
     const LRESULT answer = NativeControl::onMessage(message, first, second);
@@ -121,16 +113,6 @@ class NativeTextBox : public NativeControl {
     }
     replaceSelection(text.substr(1, close - 1));
     return true;
-  }
-
-  void drop(const std::wstring& path) {
-    // Windows lets files fall on a window that lies under a modal one.
-    const bool covered = !IsWindowEnabled(GetAncestor(handle(), GA_ROOT));
-    if (stage().closed() || covered || !box_.usable() || path.empty()) return;
-    box_.window().setFocus(box_);
-    // Whole, however long it is: the limit is one of typing, and a path cut short leads nowhere.
-    SetWindowTextW(handle(), path.c_str());
-    SendMessageW(handle(), EM_SETSEL, path.size(), static_cast<LPARAM>(path.size()));
   }
 
   /// As if the user had typed it: within the limit.

@@ -58,6 +58,15 @@ TEST_F(Files, AreTheSameHoweverTheyAreSpelled) {
   EXPECT_FALSE(sameFile(folder + "none", folder + "none")) << "there is no file at all";
 }
 
+TEST_F(Files, HaveAnAbsolutePath) {
+  for (const std::string& path : {folder + "é.inp", folder, std::string()}) {
+    EXPECT_EQ(absolutePath(path), path);
+  }
+  const std::string relative = absolutePath("sub\\..\\no.inp");
+  EXPECT_TRUE(relative.ends_with("\\no.inp") && relative.find("..") == std::string::npos);
+  EXPECT_EQ(relative.substr(1, 2), ":\\") << relative;
+}
+
 TEST_F(Files, AreNotTouchedWhenTheTextIsNotAnsi) {
   const std::string path = folder + "kept.txt";
   ASSERT_TRUE(writeTextFile(path, {"kept"}));

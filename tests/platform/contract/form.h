@@ -61,13 +61,22 @@ class Form : public Window {
   CheckBox tick{*this, {4500, 3300, 1500, 255}, "Tick"};
   Button last{*this, {4500, 3900, 1200, 375}, "Last"};
 
+  using Window::setTakesFiles;
+
   bool escapeCloses = false;
   bool refusesToClose = false;
   std::function<void()> whenClosed;
+  std::function<void()> whenShown;
   std::vector<std::string> log;
 
  protected:
   void Form_Load() override { log.push_back("load"); }
+  void shown() override {
+    if (whenShown) whenShown();
+  }
+  void filesDropped(const std::vector<std::string>& paths) override {
+    for (const std::string& path : paths) log.push_back("dropped " + path);
+  }
   bool queryUnload() override {
     log.push_back("query");
     return !refusesToClose;

@@ -110,6 +110,34 @@ TEST_F(TextBoxes, TakeTheQuotesFromAPastedPath) {
   });
 }
 
+TEST_F(TextBoxes, TakeADroppedPathWholeAndLeaveAFileToTheWindow) {
+  const std::string folder = world.freshFolder();
+  world.append(folder + "ä.inp", "");
+  const struct {
+    bool foldersOnly, windowTakesFiles;
+    std::string path;
+    bool goesToTheWindow;
+  } rows[] = {{false, true, folder + "ä.inp", false},
+              {true, true, folder + "ä.inp", true},
+              {true, false, folder + "ä.inp", false},
+              {true, true, folder, false},
+              {true, true, folder + "no.inp", false}};
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.path);
+    Form fresh;
+    row.foldersOnly ? fresh.shortBox.setTakesFolder() : fresh.shortBox.setTakesPath();
+    fresh.setTakesFiles(row.windowTakesFiles);
+    fresh.open([&] {
+      fresh.takeLog();
+      drop(fresh.shortBox, {row.path, "C:\\second"});
+      EXPECT_EQ(fresh.shortBox.text(), row.goesToTheWindow ? "" : row.path);
+      EXPECT_EQ(fresh.focused() == &fresh.shortBox, !row.goesToTheWindow);
+      EXPECT_EQ(fresh.takeLog().front(),
+                row.goesToTheWindow ? "dropped " + row.path : std::string("box lost"));
+    });
+  }
+}
+
 TEST_F(TextBoxes, TakeNothingWhileTheyAreClosed) {
   visit([&] {
     form.box.setText("kept");

@@ -33,6 +33,41 @@ TEST_F(Windows, AskBeforeTheUserClosesThem) {
   EXPECT_EQ(form.takeLog(), Log{}) << "closed once";
 }
 
+TEST_F(Windows, AreOnTheScreenWhenTheyAreToldSo) {
+  form.whenShown = [&] {
+    EXPECT_EQ(form.takeLog(), (Log{"load", "box got"}));
+    EXPECT_TRUE(form.isOpen());
+    EXPECT_EQ(form.focused(), &form.box);
+  };
+  form.open([] {});
+  form.whenShown = [&] { form.unload(); };
+  form.show();
+  EXPECT_EQ(form.takeLog().back(), "unload");
+}
+
+TEST_F(Windows, TakeDroppedFilesWhileTheyWantThem) {
+  const Log two{"dropped C:\\Grün & Co\\a.inp", "dropped D:\\b"};
+  const auto expectDrop = [&](Control& on, const Log& expected) {
+    form.takeLog();
+    drop(on, {"C:\\Grün & Co\\a.inp", "D:\\b"});
+    EXPECT_EQ(form.takeLog(), expected) << on.text();
+  };
+  form.box.setTakesPath();
+  form.open([&] {
+    expectDrop(form, {});
+    form.setTakesFiles(true);
+    for (Control* on : std::initializer_list<Control*>{&form, &form.shortBox, &form.button}) {
+      expectDrop(*on, two);
+    }
+    second.open([&] { expectDrop(form, {}); }, &form);
+    form.box.setEnabled(false);
+    expectDrop(form.box, two);
+    form.setTakesFiles(false);
+    expectDrop(form, {});
+  });
+  EXPECT_EQ(form.box.text(), "");
+}
+
 TEST_F(Windows, CloseOnEscapeOnlyIfTheySaySo) {
   form.open([&] {
     form.takeLog();
