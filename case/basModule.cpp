@@ -68,7 +68,11 @@ AnalysisCase analysisCase;
 
 std::string initialiseCase() {
   std::string workingDirectory = defaultWorkingDirectory();
-  AnalysisCase& theCase = basModule::analysisCase;
+  nameGroups(basModule::analysisCase);
+  return workingDirectory;
+}
+
+void nameGroups(AnalysisCase& theCase) {
   theCase.GroupConcFiles.fill({});
   theCase.GroupNames.fill({});
   theCase.GroupNames[1] = "ALL_SOURCES";
@@ -76,7 +80,6 @@ std::string initialiseCase() {
   for (std::size_t slot = kFixedGroups + 1; slot < kGroupSlots; ++slot) {
     theCase.GroupNames[slot] = defaultOtherName(static_cast<std::int32_t>(slot));
   }
-  return workingDirectory;
 }
 
 std::string defaultOtherName(std::int32_t slot) {

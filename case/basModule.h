@@ -13,11 +13,25 @@ inline constexpr std::size_t kGroupSlots = 51;
 inline constexpr std::int32_t kFixedGroups = 2;
 inline constexpr std::int32_t kMostOtherGroups = 48;
 
+/// The most characters of a text that a user can type, paths and names of files among them; of the
+/// name of a group, of the run length, and of the parts of the start time.
+inline constexpr int kLongestText = 132;
+inline constexpr int kLongestGroupName = 13;
+inline constexpr int kLongestRunLength = 6;
+inline constexpr int kLongestYear = 4;
+inline constexpr int kLongestTimePart = 2;
+
 /// The texts of area class and standard, in the case and on the screen.
 inline constexpr const char* kClassI = "Class I";
 inline constexpr const char* kClassII = "Class II";
 inline constexpr const char* kNaaqs = "NAAQS";
 inline constexpr const char* kPsd = "PSD";
+
+/// The values of the receptor file's format and of the rank 1 option.
+inline constexpr const char* kGenericFormat = "1";
+inline constexpr const char* kTolvrenFormat = "2";
+inline constexpr const char* kRank1Excluded = "T";
+inline constexpr const char* kRank1Included = "F";
 
 /// The regulatory case being prepared. Every step of the wizard fills its part, the summary may
 /// change some of it, the run reads it. Values are text as the user typed it, up to the control
@@ -56,6 +70,9 @@ extern AnalysisCase analysisCase;
 /// working directory from `Movrix.cfg` in the installation directory, or the empty text when the
 /// file is missing, unreadable or names none.
 std::string initialiseCase();
+
+/// Empties the tables of the groups, but for the default names of all slots.
+void nameGroups(AnalysisCase& theCase);
 
 /// The default name of the OTHER group in a slot from 3 to 50: slot 3 is OTHER_1.
 std::string defaultOtherName(std::int32_t slot);

@@ -24,6 +24,8 @@ struct AveragingPeriod {
 inline constexpr AveragingPeriod kThreeHours{"3 Hour", "3"};
 inline constexpr AveragingPeriod kDay{"24 Hour", "24"};
 inline constexpr AveragingPeriod kAnnual{"Annual", "8760"};
+/// The hours of an annual period in a leap year.
+inline constexpr const char* kHoursOfLeapYear = "8784";
 
 /// What the regulation says of one species. Everything that depends on a species is said here and
 /// nowhere else: its name, its averaging periods and its limits. An option in the wizard names it.

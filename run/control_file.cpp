@@ -8,19 +8,9 @@
 #include "case/run_files.h"
 #include "platform/files.h"
 #include "platform/result.h"
+#include "run/control_file_layout.h"
 
 namespace korventally {
-namespace {
-
-const std::string kLinePrefix = std::string(29, ' ') + ":";
-
-// Values that the engine expects and that no case varies.
-constexpr const char* kScaleAndOffset = "1000000.0,0.0";  // g/m**3 to ug/m**3
-constexpr const char* kFixedOne = "1";
-constexpr const char* kFixedTwo = "2";
-constexpr const char* kFixedZero = "0";
-
-}  // namespace
 
 std::string controlFilePath(const AnalysisCase& theCase) { return theCase.WorkDir + kControlFile; }
 
@@ -37,23 +27,23 @@ std::vector<std::string> controlFileValues(const AnalysisCase& theCase) {
     add(theCase.GroupConcFiles.at(slot));
     add(theCase.GroupNames.at(slot));
   }
-  add(kScaleAndOffset);
+  add(control_file::kScaleAndOffset);
   add(theCase.AmbientBackground);
   add(theCase.AveragingHours);
   add(theCase.StandardLimit);
   add(theCase.ReceptorFormat);
   add(theCase.ReceptorFile);
-  add(kFixedOne);
+  add(control_file::kFixedOne);
   add(theCase.SilLimit);
-  add(kFixedTwo);
+  add(control_file::kFixedTwo);
   add(theCase.Rank1Flag);
-  add(kFixedZero);
+  add(control_file::kFixedZero);
   return values;
 }
 
 std::vector<std::string> controlFileLines(const AnalysisCase& theCase) {
   std::vector<std::string> lines = controlFileValues(theCase);
-  for (std::string& line : lines) line.insert(0, kLinePrefix);
+  for (std::string& line : lines) line.insert(0, control_file::kLinePrefix);
   return lines;
 }
 

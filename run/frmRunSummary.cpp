@@ -52,7 +52,7 @@ void frmRunSummary::Form_Load() {
   lblAmbientBckg.setVisible(naaqs);
   lblAmbientConc.setVisible(naaqs);
   lblAmbientConc.setText(theCase().AmbientBackground + " " + kUnit);
-  lblRank1_YesNo.setText(theCase().Rank1Flag == "T" ? "Excluded" : "Included");
+  lblRank1_YesNo.setText(theCase().Rank1Flag == kRank1Excluded ? "Excluded" : "Included");
   lblStatus.setText("");
   lblRunning.setText("");
   chkAutoOpen.setChecked(true);

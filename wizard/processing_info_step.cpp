@@ -1,7 +1,6 @@
 #include "wizard/processing_info_step.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -9,6 +8,7 @@
 
 #include "case/ModUtilities.h"
 #include "case/basModule.h"
+#include "limits/limits.h"
 #include "limits/species.h"
 #include "platform/control.h"
 #include "platform/dialogs.h"
@@ -21,7 +21,6 @@ namespace korventally {
 namespace {
 
 constexpr std::size_t kYearDigits = 4;
-constexpr const char* kHoursOfLeapYear = "8784";
 constexpr const char* kYearFormat = "The Year must be in the format YYYY.";
 
 /// Makes a lone digit two.
@@ -32,13 +31,6 @@ void PadTwoDigits(TextBox& box) {
 bool allDigits(const std::string& text) {
   return !text.empty() &&
          std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
-}
-
-/// Every fourth year counts as a leap year, 1900 and 2100 too.
-bool isLeapYear(const std::string& year) {
-  unsigned number = 0;
-  std::from_chars(year.data(), year.data() + year.size(), number);
-  return number % 4 == 0;
 }
 
 }  // namespace
@@ -164,9 +156,9 @@ bool ProcessingInfoStep::capture(AnalysisCase& into) {
   const bool annual = into.AveragingHours == kAnnual.hours;
   // Digits are all that can be typed, but anything can be pasted.
   if (annual && !allDigits(txtYear.text())) return refuseAnnualYear();
-  if (annual && isLeapYear(txtYear.text())) into.AveragingHours = kHoursOfLeapYear;
-  into.ReceptorFormat = optReceptor_TOLVREN.selected() ? "2" : "1";
-  into.Rank1Flag = optRank1_Exclude.selected() ? "T" : "F";
+  if (annual) into.AveragingHours = annualHours(txtYear.text());
+  into.ReceptorFormat = optReceptor_TOLVREN.selected() ? kTolvrenFormat : kGenericFormat;
+  into.Rank1Flag = optRank1_Exclude.selected() ? kRank1Excluded : kRank1Included;
   into.ReceptorFile = txtReceptorDATFile.text();
   into.StartYear = txtYear.text();
   into.StartMonth = txtMonth.text();

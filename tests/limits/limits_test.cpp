@@ -33,12 +33,37 @@ TEST(Limits, AreTheTextsOfTheRegulation) {
       DeriveLimits(theCase);
       EXPECT_EQ(theCase.StandardLimit, limit);
       EXPECT_EQ(theCase.SilLimit, sil);
+      theCase.AreaClass = theCase.Standard = "";
+      EXPECT_TRUE(recogniseLimits(theCase));
+      EXPECT_EQ(theCase.AreaClass, area == std::string("Class I") ? area : "Class II");
+      EXPECT_EQ(theCase.Standard, standard);
     };
     expectLimits("Class I", "NAAQS", row.naaqs, row.silClassI);
     expectLimits("Class II", "NAAQS", row.naaqs, row.silClassII);
     expectLimits("Class I", "PSD", row.psdClassI, row.silClassI);
     expectLimits("Class II", "PSD", row.psdClassII, row.silClassII);
     expectLimits("class i", "PSD", row.psdClassII, row.silClassII);
+  }
+}
+
+TEST(Limits, AreRecognisedAsNumbersAndOnlyBothTogether) {
+  const struct {
+    const char *limit, *sil, *recognised;
+  } rows[] = {{"91", "5.00", "Class II PSD"},
+              {"365", ".2", "Class I NAAQS"},
+              {"91.0", "0.2", " "},
+              {"91.0 ", "5.0", " "},
+              {"91.0", "", " "},
+              {"", "", " "}};
+  for (const auto& row : rows) {
+    AnalysisCase theCase;
+    theCase.Species = "SO2";
+    theCase.AveragingHours = "24";
+    theCase.StandardLimit = row.limit;
+    theCase.SilLimit = row.sil;
+    EXPECT_EQ(recogniseLimits(theCase), row.recognised != std::string(" "));
+    EXPECT_EQ(theCase.AreaClass + " " + theCase.Standard, row.recognised) << row.limit;
+    EXPECT_EQ(theCase.StandardLimit, row.limit);
   }
 }
 

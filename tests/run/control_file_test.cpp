@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
+#include "platform/files.h"
 #include "platform/headless/desktop.h"
 #include "run/batch_file.h"
 
@@ -85,6 +88,118 @@ TEST_F(ControlFile, WritesValuesUnchangedAndEmptyOnesAsTheBarePrefix) {
   EXPECT_NE(bytes.find("\r\n" + prefix + " a, b \r\n"), std::string::npos);
   EXPECT_NE(bytes.find("\r\n" + prefix + "M\xFC \x80\r\n"), std::string::npos);
   EXPECT_NE(bytes.find("\r\n" + prefix + "\r\n"), std::string::npos);
+}
+
+TEST_F(ControlFile, ReadsBackWhateverItsLineEnds) {
+  useGroups(50);
+  theCase.GroupNames[7] = "M\u00FCll \u20AC, 2";
+  theCase.AmbientBackground = " 1.5 ";
+  theCase.SilLimit = "0.2";
+  std::string bytes = writtenBytes();
+  for (const char* lineEnd : {"\r\n", "\n"}) {
+    desktop.putFile("C:\\case.inp", bytes);
+    const auto read = readControlFile("case.inp");
+    ASSERT_TRUE(read) << read.error().text;
+    EXPECT_EQ(controlFileLines(read.value()), controlFileLines(theCase)) << lineEnd;
+    EXPECT_EQ(read.value().AreaClass + read.value().Standard, "Class INAAQS");
+    bytes.erase(std::remove(bytes.begin(), bytes.end(), '\r'), bytes.end());
+  }
+}
+
+TEST_F(ControlFile, NamesTheWorkingDirectoryByItsListFileOrItsOwnFolder) {
+  const struct {
+    const char *listFile, *workDir, *name;
+  } rows[] = {{"D:\\x\\y.lst", "D:\\x\\", "y.lst"},
+              {"y.lst", "C:\\Study\\", "y.lst"},
+              {"out\\y.lst", "out\\", "y.lst"},
+              {"C:/x/y.lst", "C:/x/", "y.lst"},
+              {"", "C:\\Study\\", ""}};
+  useGroups(2);
+  for (const auto& row : rows) {
+    theCase.WorkDir = "";
+    theCase.ListFile = row.listFile;
+    EXPECT_TRUE(writeTextFile("C:\\Study\\case.inp", controlFileLines(theCase)));
+    const auto read = readControlFile("Study\\case.inp");
+    ASSERT_TRUE(read) << read.error().text;
+    EXPECT_EQ(read.value().WorkDir, row.workDir);
+    EXPECT_EQ(read.value().ListFile, row.name);
+  }
+}
+
+TEST_F(ControlFile, IsReadOnlyWhenEveryLineIsAsItShouldBe) {
+  useGroups(2);
+  const std::vector<std::string> sound = controlFileLines(theCase);
+  const std::string x133(133, 'x'), list = "C:\\" + x133.substr(1);
+  const std::string lead = "does not begin with 29 blanks and a colon.",
+                    tooLong = " as a text of 133 characters; its box takes 132 characters.",
+                    badStart =
+                        "; it must be a year of four digits and month, day and hour of two, "
+                        "joined by commas.",
+                    badCount = "; it must be a whole number from 2 to 50.";
+  const struct {
+    std::size_t line;
+    std::string value, reason;  ///< without a reason the file is good
+    std::size_t leadFrom = 0;
+  } rows[] = {
+      {1, list, lead, 1},
+      {20, "0", lead, 1},
+      {4, "87\t60", "holds a control character."},
+      {1, list, ""},
+      {1, "C:\\" + x133, "gives the list file's name" + tooLong},
+      {2, "CO", "gives the species as \"CO\"; it must be SO2, PM10 or NOX."},
+      {3, "2009,01,02", "gives the start time as \"2009,01,02\"" + badStart},
+      {3, "2009,1,2,3,", "gives the start time as \"2009,1,2,3,\"" + badStart},
+      {3, "2009,1,2,003", "gives the start time as \"2009,1,2,003\"" + badStart},
+      {3, "2009,1,2,", ""},
+      {4, "", ""},
+      {4, "1234567", "gives the run length as \"1234567\"; its box takes 6 characters."},
+      {5, "51", "gives the number of source groups as \"51\"" + badCount},
+      {5, "02", "gives the number of source groups as \"02\"" + badCount},
+      {6, x133, "gives the concentration file" + tooLong},
+      {7, "ALL_SOURCES 14",
+       "gives the group name as \"ALL_SOURCES 14\"; its box takes 13 characters."},
+      {7, "13 \u00C4\u00C4\u00C4\u00C4\u00C4\u00C4\u00C4\u00C4\u00C4\u00C4", ""},
+      {10, "1,0", "gives the fixed value as \"1,0\"; it must be 1000000.0,0.0."},
+      {11, x133, "gives the ambient background" + tooLong},
+      {12, "1", "gives the averaging period in hours as \"1\"; it must be 3, 24, 8760 or 8784."},
+      {13, "any", ""},
+      {14, "3", "gives the receptor file format as \"3\"; it must be 1 or 2."},
+      {15, x133, "gives the receptor file" + tooLong},
+      {16, "2", "gives the fixed value as \"2\"; it must be 1."},
+      {18, "1", "gives the fixed value as \"1\"; it must be 2."},
+      {19, "t", "gives the rank 1 option as \"t\"; it must be T or F."},
+      {20, "0 ", "gives the fixed value as \"0 \"; it must be 0."}};
+  for (const auto& row : rows) {
+    std::vector<std::string> lines = sound;
+    lines.at(row.line - 1) = (std::string(29, ' ') + ":" + row.value).substr(row.leadFrom);
+    EXPECT_TRUE(writeTextFile("C:\\case.inp", lines));
+    const auto read = readControlFile("C:\\case.inp");
+    const std::string line = "Line " + std::to_string(row.line) + " ";
+    EXPECT_EQ(read ? line : read.error().text, line + row.reason);
+  }
+}
+
+TEST_F(ControlFile, IsReadOnlyWhenItIsWhole) {
+  useGroups(2);
+  const std::string bytes = writtenBytes(), line = std::string(29, ' ') + ":0\r\n";
+  const std::string count = "; with 2 source groups (line 5) it must have 20.";
+  const struct {
+    std::string bytes, reason;
+  } rows[] = {
+      {"", "The file is empty."},
+      {bytes.substr(0, bytes.find("8760") + 6), "Line 5 is missing."},
+      {bytes.substr(0, bytes.size() - line.size()), "The file has 19 lines" + count},
+      {bytes + "\n", "The file has 21 lines" + count},
+      {bytes.substr(0, bytes.size() - 2), "Line 20 has no line end; the file may be cut short."},
+      {bytes + std::string(300000, ' '), "The file is far too long for one."}};
+  for (const auto& row : rows) {
+    desktop.putFile("C:\\case.inp", row.bytes);
+    const auto read = readControlFile("C:\\case.inp");
+    EXPECT_EQ(read ? "read" : read.error().text, row.reason);
+  }
+  desktop.failCall(Desktop::Operation::kRead, desktop.calls(Desktop::Operation::kRead) + 1,
+                   Error{ErrorKind::kOther, 5, "Access is denied.", "C:\\case.inp"});
+  EXPECT_EQ(readControlFile("C:\\case.inp").error().code, 5);
 }
 
 TEST_F(ControlFile, IsHandedToTheEngineByTheBatchFile) {
