@@ -21,12 +21,13 @@ BOOL CALLBACK collect(HWND window, LPARAM windows) {
 
 }  // namespace
 
-Program::Program(const fs::path& folder) {
+Program::Program(const fs::path& folder, const std::wstring& arguments) {
   STARTUPINFOW startup{};
   startup.cb = sizeof startup;
   const std::wstring exe = (folder / "KorvenTallyWizard.exe").wstring();
-  if (!CreateProcessW(exe.c_str(), nullptr, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
-                      &process_)) {
+  std::wstring commandLine = L"\"" + exe + L"\" " + arguments;
+  if (!CreateProcessW(exe.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                      &startup, &process_)) {
     throw std::runtime_error("could not start the program");
   }
   window_ = windowNamed(kWizardCaption);
@@ -63,7 +64,9 @@ HWND Program::windowNamed(const std::wstring& caption) const {
   expectSoon(
       [&] {
         window = find(caption);
-        return window != nullptr && GetForegroundWindow() == window && focusIn(window) != nullptr;
+        if (window == nullptr) return false;
+        const bool covered = !IsWindowEnabled(window);
+        return covered || (GetForegroundWindow() == window && focusIn(window) != nullptr);
       },
       "window " + fs::path(caption).string());
   return window;

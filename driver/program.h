@@ -15,8 +15,9 @@ namespace fs = std::filesystem;
 /// windows that it opened.
 class Program {
  public:
-  /// Starts the program that lies in the folder.
-  explicit Program(const fs::path& folder);
+  /// Starts the program that lies in the folder, with these words on its command line. Returns when
+  /// its window is there, perhaps under a message.
+  explicit Program(const fs::path& folder, const std::wstring& arguments = L"");
   ~Program();
   Program(const Program&) = delete;
   Program& operator=(const Program&) = delete;

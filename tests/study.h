@@ -20,7 +20,8 @@ class Study {
   Study();
 
   /// Opens the wizard, lets the visit happen and closes the wizard.
-  void inWizard(const std::function<void(frmKORVENTALLY&)>& visit);
+  void inWizard(const std::function<void(frmKORVENTALLY&)>& visit,
+                std::vector<std::string> controlFiles = {});
   /// What the user does in the run summary when it opens next; it is closed afterwards.
   void expectSummary(const std::function<void(frmRunSummary&)>& visit);
   /// Shows the run summary of a captured case, without the wizard.

@@ -10,6 +10,7 @@
 
 #include "case/ModUtilities.h"
 #include "case/basModule.h"
+#include "limits/limits.h"
 #include "limits/species.h"
 #include "platform/button.h"
 #include "platform/color.h"
@@ -106,8 +107,12 @@ void AnalysisTypeStep::opened(Way way) {
 /// "Back to Top" leaves the sub-frames as they are, to be found so again.
 void AnalysisTypeStep::closed(Way way) {
   if (way == Way::kToTop) return;
+  if (way == Way::kBack) return DisableAnalysisSubFrames();
+  closeSubFrames();
+}
+
+void AnalysisTypeStep::closeSubFrames() {
   DisableAnalysisSubFrames();
-  if (way == Way::kBack) return;
   for (Button* arrow : {&cmdNextArrow1, &cmdNextArrow2, &cmdNextArrow3}) arrow->setBackColor(kIdle);
 }
 
@@ -205,6 +210,20 @@ bool AnalysisTypeStep::capture(AnalysisCase& into) {
   into.Species = species().name;
   into.AveragingHours = period().hours;
   return true;
+}
+
+void AnalysisTypeStep::fill(const AnalysisCase& from) {
+  (from.AreaClass == kClassII ? optClassII : optClassI).select();
+  (from.Standard == kPsd ? optPSD : optNAAQS).select();
+  for (SpeciesOption* option : optionsOf<SpeciesOption>(frameSpecies)) {
+    if (option->species.name == from.Species) option->select();
+  }
+  for (PeriodOption* option : optionsOf<PeriodOption>(frameAveragingPeriod)) {
+    if (&option->period == &periodOf(from.AveragingHours)) option->select();
+  }
+  fillIn(txtNumOfOthers, std::to_string(from.GroupCount - kFixedGroups));
+  // "Back to Top" may have left one open whose options were those of another species.
+  closeSubFrames();
 }
 
 }  // namespace korventally

@@ -123,6 +123,7 @@ class AnalysisTypeStep : public WizardStep {
   void closed(Way way) override;
   /// Captures an annual period as the hours of a common year: the start year may make it longer.
   bool capture(AnalysisCase& into) override;
+  void fill(const AnalysisCase& from) override;
 
   void cmdNextArrow1_Click();
   void cmdBackArrow1_Click();
@@ -135,6 +136,8 @@ class AnalysisTypeStep : public WizardStep {
 
  private:
   void DisableAnalysisSubFrames();
+  /// Also, no arrow is the one to press next.
+  void closeSubFrames();
   void applySpeciesRule();
   void bindHandlers();
   const Species& species() const;

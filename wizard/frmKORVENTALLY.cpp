@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <iterator>
+#include <string>
+#include <utility>
 #include <vector>
 
 #include "case/ModUtilities.h"
@@ -9,7 +11,10 @@
 #include "limits/limits.h"
 #include "platform/container.h"
 #include "platform/control.h"
+#include "platform/result.h"
+#include "run/control_file.h"
 #include "run/frmRunSummary.h"
+#include "wizard/opening_messages.h"
 #include "wizard/step_host.h"
 #include "wizard/wizard_step.h"
 
@@ -29,8 +34,10 @@ bool isInside(const Container& container, const Control& control) {
 
 }  // namespace
 
-frmKORVENTALLY::frmKORVENTALLY()
-    : StepHost(" KorvenTally [source contributions to a regulatory limit]", {13215, 10275}) {
+frmKORVENTALLY::frmKORVENTALLY(std::vector<std::string> controlFiles)
+    : StepHost(" KorvenTally [source contributions to a regulatory limit]", {13215, 10275}),
+      controlFiles_(std::move(controlFiles)) {
+  setTakesFiles(true);
   setMenus({mnuFile, mnuHelp});
   setTabOrder(wholeTabOrder());
   cmdBackToTop.onClick = [this] { cmdBackToTop_Click(); };
@@ -63,6 +70,22 @@ std::vector<Control*> frmKORVENTALLY::wholeTabOrder() {
 void frmKORVENTALLY::Form_Load() {
   const std::string defaultDirectory = initialiseCase();
   if (!defaultDirectory.empty()) workingDirectory.setPath(defaultDirectory);
+}
+
+void frmKORVENTALLY::shown() {
+  if (!controlFiles_.empty()) openControlFiles(controlFiles_);
+}
+
+void frmKORVENTALLY::filesDropped(const std::vector<std::string>& paths) {
+  openControlFiles(paths);
+}
+
+void frmKORVENTALLY::openControlFiles(const std::vector<std::string>& paths) {
+  const Result<AnalysisCase> opened =
+      paths.size() == 1 ? readControlFile(paths.front()) : tooManyFiles(paths);
+  if (!opened) return sayWhyNotOpened(*this, opened.error());
+  for (WizardStep* step : steps_) step->fill(opened.value());
+  sayWhatCouldNotBeFilled(*this, opened.value());
 }
 
 const std::string& frmKORVENTALLY::askForFile(const std::string& filter) {
@@ -100,6 +123,7 @@ void frmKORVENTALLY::cmdBackToTop_Click() {
 
 void frmKORVENTALLY::switchSteps(WizardStep& from, WizardStep& to, WizardStep::Way way) {
   SwitchStep(from.controls(), from.fields(), to.controls(), to.fields());
+  setTakesFiles(&to == steps_.front());
   from.closed(way);
   to.opened(way);
 }

@@ -22,10 +22,13 @@ namespace korventally {
 
 /// The wizard: five steps from top to bottom, of which one is open at a time, over a row of
 /// buttons. Each step opens the next once its input is good; "PREVIOUS" and "Back to Top" lead back
-/// without a check. Closing the window ends the program.
+/// without a check. A control file given at the start, or dropped on the window while the first
+/// step is open, fills all steps. Closing the window ends the program.
 class frmKORVENTALLY : public StepHost {
  public:
-  frmKORVENTALLY();
+  /// `controlFiles` are those that the user has started the program with, of which there can be
+  /// one.
+  explicit frmKORVENTALLY(std::vector<std::string> controlFiles = {});
 
   static constexpr Font kBackToTopFont{"Arial", 12, true};
   static constexpr Font kRunFont{"Arial", 14.25, true};
@@ -65,6 +68,8 @@ class frmKORVENTALLY : public StepHost {
 
  protected:
   void Form_Load() override;
+  void shown() override;
+  void filesDropped(const std::vector<std::string>& paths) override;
   /// The first control of the open step that can be used.
   Control* preferredFocus() const override;
 
@@ -73,11 +78,14 @@ class frmKORVENTALLY : public StepHost {
   WizardStep* openStep() const;
   void switchSteps(WizardStep& from, WizardStep& to, WizardStep::Way way);
   bool CaptureCase();
+  /// Fills all steps from the one control file, or says why not and leaves everything as it is.
+  void openControlFiles(const std::vector<std::string>& paths);
 
   /// From the first to the last, in which "RUN" is pressed.
   const std::vector<WizardStep*> steps_{&workingDirectory, &analysisType, &sourceGroups,
                                         &processingInfo, &outputFile};
 
+  const std::vector<std::string> controlFiles_;
   frmAboutKORVENTALLY about_;
   frmKORVENTALLYHelp help_;
 };

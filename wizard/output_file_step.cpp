@@ -47,6 +47,8 @@ bool OutputFileStep::capture(AnalysisCase& into) {
   return true;
 }
 
+void OutputFileStep::fill(const AnalysisCase& from) { fillIn(txtLSTFilename, from.ListFile); }
+
 bool OutputFileStep::checkListFile(const AnalysisCase& captured) {
   const std::string& name = txtLSTFilename.text();
   if (name.empty()) {

@@ -22,7 +22,7 @@ class OutputFileStep : public WizardStep {
 
   StepFrame frameOutputFile{wizard_, {120, 8520, 11295, 855}, "OUTPUT RESULTS FILE:"};
   Label lblLSTFilename{frameOutputFile, {420, 415, 1095, 255}, "List Filename:"};
-  TextBox txtLSTFilename{frameOutputFile, {1440, 380, 8535, 315}, kDefaultListFile, 132};
+  TextBox txtLSTFilename{frameOutputFile, {1440, 380, 8535, 315}, kDefaultListFile, kLongestText};
   Button cmdDefault_LST{frameOutputFile, {10080, 360, 975, 315}, "Default"};
 
   NavigationColumn Frame7{wizard_, {11640, 8520, 1455, 855}};
@@ -38,6 +38,7 @@ class OutputFileStep : public WizardStep {
   std::vector<Control*> tabStopsBack() override { return {&cmdPrevious5}; }
   /// Refuses a name that no list file can have, and asks before a list file is overwritten.
   bool capture(AnalysisCase& into) override;
+  void fill(const AnalysisCase& from) override;
 
   void cmdDefault_LST_Click();
   void cmdPrevious5_Click();

@@ -168,6 +168,17 @@ bool ProcessingInfoStep::capture(AnalysisCase& into) {
   return true;
 }
 
+void ProcessingInfoStep::fill(const AnalysisCase& from) {
+  (from.ReceptorFormat == kTolvrenFormat ? optReceptor_TOLVREN : optReceptor_Generic).select();
+  (from.Rank1Flag == kRank1Excluded ? optRank1_Exclude : optRank1_Include).select();
+  fillIn(txtReceptorDATFile, from.ReceptorFile);
+  fillIn(txtYear, from.StartYear);
+  fillIn(txtMonth, from.StartMonth);
+  fillIn(txtDay, from.StartDay);
+  fillIn(txtHour, from.StartHour);
+  fillIn(txtRunLength, from.RunLength);
+}
+
 /// The step is closed, so the mark takes the colour that turns yellow when the step opens again.
 bool ProcessingInfoStep::refuseAnnualYear() {
   HighlightField(txtYear);

@@ -24,8 +24,8 @@ namespace korventally {
 /// A box for a part of the start time. Its placeholder shows how many digits it takes.
 class TimeBox : public TextBox {
  public:
-  TimeBox(Container& frame, Rect place, const std::string& placeholder)
-      : TextBox(frame, place, "", static_cast<int>(placeholder.size())) {
+  TimeBox(Container& frame, Rect place, const std::string& placeholder, int digits)
+      : TextBox(frame, place, "", digits) {
     setPlaceholder(placeholder);
   }
 };
@@ -39,7 +39,7 @@ class ProcessingInfoStep : public WizardStep {
 
   Frame frameReceptorDATFormat{
       frameProcessingInfo, {360, 325, 6615, 2070}, "File with Receptors to be Processed:"};
-  TextBox txtReceptorDATFile{frameReceptorDATFormat, {240, 420, 5150, 315}, "", 132};
+  TextBox txtReceptorDATFile{frameReceptorDATFormat, {240, 420, 5150, 315}, "", kLongestText};
   Button cmdBrowseReceptorDAT{frameReceptorDATFormat, {5480, 405, 975, 315}, "Browse"};
   Label lblReceptorFileFormat{
       frameReceptorDATFormat, {240, 960, 1335, 255}, "File Format", Align::kLeft, fonts::kBold};
@@ -50,16 +50,16 @@ class ProcessingInfoStep : public WizardStep {
 
   Frame frameRunLength{frameProcessingInfo, {7080, 325, 3975, 1300}, "Start Time and Run Length:"};
   Label lblYear{frameRunLength, {120, 345, 495, 255}, "Year:", Align::kRight};
-  TimeBox txtYear{frameRunLength, {670, 300, 615, 315}, "YYYY"};
+  TimeBox txtYear{frameRunLength, {670, 300, 615, 315}, "YYYY", kLongestYear};
   Label lblDay{frameRunLength, {1320, 345, 495, 255}, "Day:", Align::kRight};
-  TimeBox txtDay{frameRunLength, {1870, 300, 615, 315}, "DD"};
+  TimeBox txtDay{frameRunLength, {1870, 300, 615, 315}, "DD", kLongestTimePart};
   Label lblMonth{frameRunLength, {120, 865, 495, 255}, "Month:", Align::kRight};
-  TimeBox txtMonth{frameRunLength, {670, 820, 615, 315}, "MM"};
+  TimeBox txtMonth{frameRunLength, {670, 820, 615, 315}, "MM", kLongestTimePart};
   Label lblHour{frameRunLength, {1320, 865, 495, 255}, "Hour:", Align::kRight};
-  TimeBox txtHour{frameRunLength, {1870, 820, 615, 315}, "HH"};
+  TimeBox txtHour{frameRunLength, {1870, 820, 615, 315}, "HH", kLongestTimePart};
   Line Line1{frameRunLength, {2615, 240, 0, 960}};
   Label lblRunLength{frameRunLength, {2760, 350, 975, 255}, "Run Length:"};
-  TextBox txtRunLength{frameRunLength, {2760, 660, 615, 315}, "", 6};
+  TextBox txtRunLength{frameRunLength, {2760, 660, 615, 315}, "", kLongestRunLength};
   Label lblHours{frameRunLength, {3415, 705, 495, 255}, "hours"};
 
   Frame frameRank1Values{frameProcessingInfo, {7080, 1720, 3975, 680}, "Rank 1 Values:"};
@@ -98,6 +98,7 @@ class ProcessingInfoStep : public WizardStep {
   std::vector<Control*> tabStopsBack() override { return {&cmdPrevious4}; }
   /// An annual period gets the hours of its own year. Only then must the year be a number.
   bool capture(AnalysisCase& into) override;
+  void fill(const AnalysisCase& from) override;
 
   void cmdBrowseReceptorDAT_Click();
   void cmdPrevious4_Click();

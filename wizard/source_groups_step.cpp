@@ -16,6 +16,9 @@
 namespace korventally {
 namespace {
 
+/// What an empty box means.
+constexpr const char* kNoBackground = "0";
+
 AnalysisCase& theCase() { return basModule::analysisCase; }
 
 }  // namespace
@@ -189,8 +192,19 @@ void SourceGroupsStep::txtAmbientBckg_LostFocus() { ClearFieldHighlight(txtAmbie
 
 /// The tables of the groups are in the case already: fifty pages share one set of controls.
 bool SourceGroupsStep::capture(AnalysisCase& into) {
-  into.AmbientBackground = txtAmbientBckg.isEmpty() ? "0" : txtAmbientBckg.text();
+  into.AmbientBackground = txtAmbientBckg.isEmpty() ? kNoBackground : txtAmbientBckg.text();
   return true;
+}
+
+/// The number of groups waits for "NEXT" of the step before; the pages are turned to the first.
+void SourceGroupsStep::fill(const AnalysisCase& from) {
+  theCase().GroupConcFiles = from.GroupConcFiles;
+  theCase().GroupNames = from.GroupNames;
+  SetGroupCaption(frameSourceGroupInfo, 1, from.GroupCount);
+  SetAmbientBackgroundVisible(1);
+  fillIn(txtConcFile, from.GroupConcFiles[1]);
+  fillIn(txtGroupName, from.GroupNames[1]);
+  fillIn(txtAmbientBckg, from.AmbientBackground == kNoBackground ? "" : from.AmbientBackground);
 }
 
 }  // namespace korventally

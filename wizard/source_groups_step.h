@@ -27,7 +27,7 @@ class SourceGroupsStep : public WizardStep {
 
   Label lblConcFile{
       frameSourceGroupInfo, {240, 435, 1695, 255}, "Concentration File:", Align::kRight};
-  TextBox txtConcFile{frameSourceGroupInfo, {2040, 390, 7935, 315}, "", 132};
+  TextBox txtConcFile{frameSourceGroupInfo, {2040, 390, 7935, 315}, "", kLongestText};
   Button cmdBrowseFile{frameSourceGroupInfo, {10080, 390, 975, 315}, "Browse"};
   Label lblNote1{
       frameSourceGroupInfo,
@@ -36,7 +36,8 @@ class SourceGroupsStep : public WizardStep {
 
   Label lblGroupName{
       frameSourceGroupInfo, {240, 1110, 1695, 255}, "Source Group Name:", Align::kRight};
-  TextBox txtGroupName{frameSourceGroupInfo, {2040, 1065, 1935, 315}, "ALL_SOURCES", 13};
+  TextBox txtGroupName{
+      frameSourceGroupInfo, {2040, 1065, 1935, 315}, "ALL_SOURCES", kLongestGroupName};
   Label lblNote2{frameSourceGroupInfo, {2040, 1410, 1935, 210}, "(Up to 13 chars.)"};
   Label lblNote4{frameSourceGroupInfo, {2040, 1635, 1935, 210}, "(Must begin with \"ALL\".)"};
   Label lblNote5{frameSourceGroupInfo,
@@ -46,7 +47,7 @@ class SourceGroupsStep : public WizardStep {
 
   Label lblAmbientBckg{
       frameSourceGroupInfo, {4440, 1110, 1695, 255}, "Ambient Background:", Align::kRight};
-  TextBox txtAmbientBckg{frameSourceGroupInfo, {6240, 1065, 1935, 315}, "", 132};
+  TextBox txtAmbientBckg{frameSourceGroupInfo, {6240, 1065, 1935, 315}, "", kLongestText};
   Label lblugm3{frameSourceGroupInfo, {8280, 1110, 735, 255}, "ug/m**3"};
   Label lblNote3{frameSourceGroupInfo,
                  {6240, 1410, 4815, 630},
@@ -88,6 +89,7 @@ class SourceGroupsStep : public WizardStep {
   void opened(Way way) override;
   void closed(Way) override { disablePagingButtons(); }
   bool capture(AnalysisCase& into) override;
+  void fill(const AnalysisCase& from) override;
 
   /// Slot of the page shown.
   std::int32_t CurrentGroup = 0;

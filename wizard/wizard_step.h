@@ -62,11 +62,19 @@ class WizardStep {
   /// parts. False when no case can be run with it: the user has been told why, or has said no.
   virtual bool capture(AnalysisCase& into) = 0;
 
+  /// The way back: puts the step's part of a case into its controls, as if the user had typed it
+  /// and nothing before it. The case is one that `capture` can make, but its texts are not checked,
+  /// and area class and standard may be empty.
+  virtual void fill(const AnalysisCase& from) = 0;
+
  protected:
   explicit WizardStep(StepHost& host) : wizard_(host) {}
 
   /// Marks the box, says what is wrong and puts the focus into the box.
   void refuse(TextBox& box, const std::string& message);
+
+  /// Puts a text into a box and takes the mark of an earlier one that was refused.
+  static void fillIn(TextBox& box, const std::string& text);
 
   /// Puts the focus into the box with its text selected, for another one to be typed.
   void offerToCorrect(TextBox& box);

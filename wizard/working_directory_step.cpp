@@ -10,7 +10,7 @@
 namespace korventally {
 
 WorkingDirectoryStep::WorkingDirectoryStep(StepHost& host) : WizardStep(host) {
-  txtWorkDir.setTakesPath();
+  txtWorkDir.setTakesFolder();
   txtWorkDir.setLabel(frameWorkingDirectory);
   cmdBrowseWorkDir.onClick = [this] { cmdBrowseWorkDir_Click(); };
   txtWorkDir.onLostFocus = [this] { txtWorkDir_LostFocus(); };
@@ -44,5 +44,7 @@ bool WorkingDirectoryStep::capture(AnalysisCase& into) {
   into.WorkDir = path();
   return true;
 }
+
+void WorkingDirectoryStep::fill(const AnalysisCase& from) { fillIn(txtWorkDir, from.WorkDir); }
 
 }  // namespace korventally

@@ -35,6 +35,7 @@ class WorkingDirectoryStep : public WizardStep {
   const Frame& frame() const override { return frameWorkingDirectory; }
   std::vector<Control*> tabStops() override { return {&txtWorkDir, &cmdBrowseWorkDir, &cmdNext1}; }
   bool capture(AnalysisCase& into) override;
+  void fill(const AnalysisCase& from) override;
 
   /// The directory as it stands in the box.
   const std::string& path() const { return txtWorkDir.text(); }

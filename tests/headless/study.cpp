@@ -36,8 +36,9 @@ void Study::engineWrites(std::vector<std::pair<std::uint32_t, std::string>> line
   });
 }
 
-void Study::inWizard(const std::function<void(frmKORVENTALLY&)>& visit) {
-  frmKORVENTALLY wizard;
+void Study::inWizard(const std::function<void(frmKORVENTALLY&)>& visit,
+                     std::vector<std::string> controlFiles) {
+  frmKORVENTALLY wizard(std::move(controlFiles));
   desktop.expectWindow([&](Window&) {
     visit(wizard);
     wizard.unload();

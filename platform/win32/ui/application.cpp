@@ -2,7 +2,10 @@
 
 #include <exception>
 #include <new>
+#include <string>
+#include <vector>
 
+#include "platform/win32/system/text.h"
 #include "platform/win32/ui/session.h"
 #include "platform/win32/ui/system_function.h"
 #include "platform/win32/ui/system_headers.h"
@@ -33,6 +36,15 @@ class Ole {
   const bool entered_;
 };
 
+std::vector<std::string> arguments() {
+  int count = 0;
+  wchar_t** const words = CommandLineToArgvW(GetCommandLineW(), &count);
+  std::vector<std::string> given;
+  for (int i = 1; i < count; ++i) given.push_back(win32::fromWide(words[i]));
+  LocalFree(words);
+  return given;
+}
+
 int giveUp(const wchar_t* why) {
   MessageBoxW(nullptr, why, L"Error", MB_OK);
   return 1;
@@ -40,14 +52,14 @@ int giveUp(const wchar_t* why) {
 
 }  // namespace
 
-int runApplication(int (*body)()) {
+int runApplication(int (*body)(const std::vector<std::string>& arguments)) {
   loadFromSystemFolderOnly();
   const INITCOMMONCONTROLSEX classes{sizeof classes, ICC_STANDARD_CLASSES | ICC_WIN95_CLASSES};
   InitCommonControlsEx(&classes);
   const Ole ole;
   try {
     const win32::SessionWatch watch;
-    return body();
+    return body(arguments());
   } catch (const std::bad_alloc&) {
     return giveUp(L"KorvenTally has run out of memory and has to close.");
   } catch (const std::exception&) {
