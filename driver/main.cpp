@@ -1,6 +1,6 @@
-// Takes the wizard through the sample study for scripts/demo and scripts/screenshots: says what it
-// does, and asks for a picture of each step with a line "picture NAME GEOMETRY", which is there
-// once the file is.
+// Takes the wizard through the sample study, or through a case that was imported of a model's
+// files, for scripts/demo and scripts/screenshots: says what it does, and asks for a picture of
+// each step with a line "picture NAME GEOMETRY", which is there once the file is.
 #include <chrono>
 #include <cstdio>
 #include <exception>
@@ -96,10 +96,26 @@ void visitTheRest(const Program& program, const Album& album) {
   visitButton(program, album, "cmdBrowseWorkDir", L"Browse");
 }
 
+/// The case that was imported of a model's files into the folder "case", to be opened.
+Study importedStudy(const fs::path& folder) {
+  return {.workDir = (folder / "case").wstring() + L"\\",
+          .concFiles = {L"ALL.con", L"FACILITY.con", L"OTHER1.con"},
+          .receptors = L"receptors.dat",
+          .year = L"2010",
+          .month = L"07",
+          .day = L"16",
+          .hour = L"01",
+          .hours = L"48",
+          .opened = true};
+}
+
 bool drive(const std::wstring& what, const fs::path& folder) {
   const bool gallery = what == L"gallery";
+  const bool model = what == L"model";
+  const Study study = model ? importedStudy(folder) : Study{(folder / "study").wstring() + L"\\"};
   const Album album(folder);
-  const Program program(folder / "KorvenTally");
+  const Program program(folder / "KorvenTally",
+                        model ? L"\"" + study.workDir + L"case.inp\"" : L"");
   album.take("0-start", program.wizard().window());
   if (gallery) visitTheRest(program, album);
   int page = 0;
@@ -110,7 +126,6 @@ bool drive(const std::wstring& what, const fs::path& folder) {
     album.take(std::to_string(step) + "-step" + suffix, program.wizard().window());
     if (gallery && page == 1 && step == 3) visitButton(program, album, "cmdBrowseFile", L"Open");
   };
-  const Study study{(folder / "study").wstring() + L"\\"};
   (gallery ? walkWithKeyboard : walkWithMouse)(program, study, observe);
   return run(program, album);
 }

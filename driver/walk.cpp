@@ -72,7 +72,7 @@ void chooseAnalysis(const Hand& hand, const Study& study) {
 
 void fillGroups(const Hand& hand, const Study& study, const Observer& observe) {
   for (std::size_t group = 0; group < study.concFiles.size(); ++group) {
-    hand.fill("txtConcFile", study.workDir + study.concFiles[group]);
+    if (!study.opened) hand.fill("txtConcFile", study.workDir + study.concFiles[group]);
     const std::wstring page = hand.form.text("frameSourceGroupInfo");
     observe(3, fs::path(page + L" " + study.concFiles[group]).string());
     if (group + 1 == study.concFiles.size()) return;
@@ -82,6 +82,7 @@ void fillGroups(const Hand& hand, const Study& study, const Observer& observe) {
 }
 
 void fillProcessing(const Hand& hand, const Study& study) {
+  if (study.opened) return;
   hand.fill("txtReceptorDATFile", study.workDir + study.receptors);
   hand.choose("optReceptor_TOLVREN", "optReceptor_Generic");
   hand.fill("txtYear", study.year);
@@ -98,7 +99,7 @@ void next(const Hand& hand, std::string_view button, std::string_view frame) {
 }
 
 void walk(const Program& program, const Hand& hand, const Study& study, const Observer& observe) {
-  hand.fill("txtWorkDir", study.workDir);
+  if (!study.opened) hand.fill("txtWorkDir", study.workDir);
   observe(1, "working directory " + fs::path(study.workDir).string());
   next(hand, "cmdNext1", "frameAnalysisType");
   chooseAnalysis(hand, study);
@@ -108,7 +109,9 @@ void walk(const Program& program, const Hand& hand, const Study& study, const Ob
   fillGroups(hand, study, observe);
   next(hand, "cmdNext3", "frameProcessingInfo");
   fillProcessing(hand, study);
-  observe(4, "receptors.dat, from 2009-01-12 hour 00, 168 hours");
+  observe(4, fs::path(study.receptors + L", from " + study.year + L"-" + study.month + L"-" +
+                      study.day + L" hour " + study.hour + L", " + study.hours + L" hours")
+                 .string());
   next(hand, "cmdNext4", "frameOutputFile");
   observe(5, "list file korventally.lst");
   hand.press("cmdRUN");

@@ -8,13 +8,14 @@
 
 namespace korventally::driver {
 
-/// What a user enters for the sample study, as samples/README.md tells.
+/// What a user enters: for the sample study, as samples/README.md tells.
 struct Study {
   std::wstring workDir;  ///< with its last backslash
   std::vector<std::wstring> concFiles = {L"all_sources.con", L"facility.con", L"other_1.con",
                                          L"other_2.con", L"other_3.con"};
   std::wstring receptors = L"receptors.dat";
   std::wstring year = L"2009", month = L"01", day = L"12", hour = L"00", hours = L"168";
+  bool opened = false;  ///< the wizard took all of it but the analysis from a control file
 };
 
 /// Told after each step what was entered there, while the step is still open.

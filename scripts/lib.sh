@@ -12,6 +12,7 @@ cd "$root"
 build_packages=(cmake ninja-build g++ g++-mingw-w64-x86-64-posix googletest)
 # Wine draws buttons and arrows with fonts that its own package only recommends.
 desktop_packages=(wine wine64 fonts-wine fonts-liberation xvfb imagemagick)
+browser_packages=(chromium chromium-driver python3-selenium)
 
 fail() {
   printf '%s\n' "$*" >&2
@@ -184,7 +185,7 @@ take_picture() { # folder, name, geometry
 
 # Has the wizard of such a copy driven by mouse and keyboard. The driver says what it does, asks for
 # pictures and waits for them. The result is the driver's.
-drive_copy() { # folder, what to do: demo or gallery
+drive_copy() { # folder, what to do: demo, gallery or model
   local line name geometry
   while IFS= read -r line; do
     line=${line%$'\r'}
