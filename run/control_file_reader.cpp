@@ -85,9 +85,9 @@ void readStart(Lines& lines, AnalysisCase& into) {
 std::int32_t readGroupCount(Lines& lines) {
   const std::string text = lines.next("number of source groups");
   std::int32_t count = 0;
-  std::from_chars(text.data(), text.data() + text.size(), count);
-  // Only digits come back as they were.
-  if (std::to_string(count) == text && count >= kFixedGroups && count <= kMostGroups) return count;
+  const char* const end = text.data() + text.size();
+  const bool whole = std::from_chars(text.data(), end, count).ptr == end;
+  if (whole && count >= kFixedGroups && count <= kMostGroups) return count;
   lines.refuse("gives the number of source groups as " + control_file::shown(text) +
                "; it must be a whole number from 2 to 50");
   return kFixedGroups;
@@ -108,8 +108,9 @@ void requireWhole(Lines& lines, std::int32_t groups) {
 }
 
 std::vector<std::string> speciesNames() {
-  std::vector<std::string> names;
-  for (const Species* species : kAllSpecies) names.emplace_back(species->name);
+  std::vector<std::string> names(kAllSpecies.size());
+  std::transform(kAllSpecies.begin(), kAllSpecies.end(), names.begin(),
+                 [](const Species* species) { return species->name; });
   return names;
 }
 

@@ -39,15 +39,16 @@ std::string hoursOfAnotherYear(const AnalysisCase& opened) {
 Error tooManyFiles(const std::vector<std::string>& paths) {
   return {ErrorKind::kOther, 0,
           "It is the first of " + std::to_string(paths.size()) +
-              " names, and only one file can be opened at a time.",
+              " names, and only one file can be opened at a time. On a command line, a name with "
+              "blanks belongs into double quotes.",
           paths.front()};
 }
 
 void sayWhyNotOpened(Window& owner, const Error& error) {
-  showFailure(&owner, "The wizard cannot be filled from this file:", error,
-              "Nothing has been filled in. Please open one control file of KorvenTally, a copy of "
-              "the korventally.inp that a run in debug mode keeps. On a command line, a name with "
-              "blanks belongs into double quotes.");
+  showFailure(
+      &owner, "The wizard cannot be filled from this file:", error,
+      "Nothing has been filled in. Please open a control file as KorvenTally writes it: a copy "
+      "of the korventally.inp that a run in debug mode keeps.");
 }
 
 void sayWhatCouldNotBeFilled(Window& owner, const AnalysisCase& opened) {

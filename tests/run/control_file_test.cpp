@@ -154,7 +154,7 @@ TEST_F(ControlFile, IsReadOnlyWhenEveryLineIsAsItShouldBe) {
       {4, "", ""},
       {4, "1234567", "gives the run length as \"1234567\"; its box takes 6 characters."},
       {5, "51", "gives the number of source groups as \"51\"" + badCount},
-      {5, "02", "gives the number of source groups as \"02\"" + badCount},
+      {5, "2 ", "gives the number of source groups as \"2 \"" + badCount},
       {6, x133, "gives the concentration file" + tooLong},
       {7, "ALL_SOURCES 14",
        "gives the group name as \"ALL_SOURCES 14\"; its box takes 13 characters."},

@@ -55,10 +55,9 @@ class Opening : public StudyTest {
   void expectRefusal(const std::string& path, const std::string& reason,
                      std::function<void()> meanwhile = {}) {
     desktop.expectMessage("The wizard cannot be filled from this file:\n" + path + "\n\n" + reason +
-                              "\n\nNothing has been filled in. Please open one control file of "
-                              "KorvenTally, a copy of the korventally.inp that a run in debug mode "
-                              "keeps. On a command line, a name with blanks belongs into double "
-                              "quotes.",
+                              "\n\nNothing has been filled in. Please open a control file as "
+                              "KorvenTally writes it: a copy of the korventally.inp that a run in "
+                              "debug mode keeps.",
                           "Error", Answer::kOk, std::move(meanwhile));
   }
 
@@ -83,7 +82,7 @@ TEST_F(Opening, AndRunningUntouchedWritesTheSameFileAgain) {
           EXPECT_TRUE(w.workingDirectory.isOpen());
           EXPECT_EQ(w.focused(), &w.workingDirectory.txtWorkDir);
           EXPECT_EQ(w.sourceGroups.txtAmbientBckg.text(), each.GroupCount == 2 ? "" : "12.5");
-          EXPECT_EQ(theCase.GroupNames[each.GroupCount], each.GroupNames[each.GroupCount]);
+          EXPECT_EQ(theCase.GroupNames[50], "OTHER_48") << "offered where the file has no group";
           EXPECT_EQ(desktop.calls(Desktop::Operation::kWrite), written)
               << "opening changes no file";
           runUntouched(w);
@@ -105,7 +104,9 @@ TEST_F(Opening, RefusesOverTheEmptyWindow) {
       {{"a.txt"}, "C:\\a.txt", "Line 1 does not begin with 29 blanks and a colon."},
       {{"C:\\My", "case.inp"},
        "C:\\My",
-       "It is the first of 2 names, and only one file can be opened at a time."},
+       "It is the first of 2 names, and only one file can be opened at a time. On a command line, "
+       "a "
+       "name with blanks belongs into double quotes."},
   };
   for (const auto& row : rows) {
     expectRefusal(row.path, row.reason, [] {
@@ -145,7 +146,7 @@ TEST_F(Opening, SaysWhatFollowsFromOtherValuesThanTheFiles) {
 
 TEST_F(Opening, TakesADropWhileStepOneIsOpen) {
   theCase.DebugMode = true;
-  const std::string bytes = save(caseOf(4));
+  const std::string bytes = save(caseOf(50));
   desktop.putFile("C:\\a.txt", "text\r\n");
   inWizard([&](frmKORVENTALLY& w) {
     TextBox& box = w.workingDirectory.txtWorkDir;
@@ -174,6 +175,7 @@ TEST_F(Opening, TakesADropWhileStepOneIsOpen) {
       EXPECT_EQ(w.processingInfo.txtYear.text(), "2008");
     }
     EXPECT_EQ(w.outputFile.txtLSTFilename.backColor(), colors::kButtonFace) << "no old mark";
+    EXPECT_TRUE(w.sourceGroups.txtAmbientBckg.visible()) << "the first page";
     click(w.workingDirectory.cmdNext1);
     EXPECT_FALSE(w.analysisType.opt3hr.usable()) << "of the species before";
     EXPECT_EQ(w.analysisType.cmdNextArrow1.backColor(), colors::kGreen);

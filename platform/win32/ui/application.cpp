@@ -41,7 +41,7 @@ std::vector<std::string> arguments() {
   wchar_t** const words = CommandLineToArgvW(GetCommandLineW(), &count);
   std::vector<std::string> given;
   for (int i = 1; i < count; ++i) given.push_back(win32::fromWide(words[i]));
-  LocalFree(words);
+  LocalFree(static_cast<void*>(words));
   return given;
 }
 

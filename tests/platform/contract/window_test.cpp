@@ -59,7 +59,14 @@ TEST_F(Windows, TakeDroppedFilesWhileTheyWantThem) {
     for (Control* on : std::initializer_list<Control*>{&form, &form.shortBox, &form.button}) {
       expectDrop(*on, two);
     }
-    second.open([&] { expectDrop(form, {}); }, &form);
+    second.setTakesFiles(true);
+    second.open(
+        [&] {
+          expectDrop(form, {});
+          drop(second, {"C:\\a.inp"});
+          EXPECT_EQ(second.takeLog().back(), "dropped C:\\a.inp");
+        },
+        &form);
     form.box.setEnabled(false);
     expectDrop(form.box, two);
     form.setTakesFiles(false);
