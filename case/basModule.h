@@ -58,6 +58,7 @@ struct AnalysisCase {
   std::string ListFile;       ///< name of the engine's list file in `WorkDir`, exactly as typed
   std::string StandardLimit;  ///< NAAQS standard or PSD increment, ug/m**3
   std::string SilLimit;       ///< significant impact level, ug/m**3
+  std::string openedFrom;     ///< full path of the control file last opened, which is the user's
   bool DebugMode = false;     ///< keeps the run's files and shows the engine's console
 };
 

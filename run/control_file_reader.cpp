@@ -150,6 +150,7 @@ Result<AnalysisCase> readControlFile(const std::string& path) {
   Lines lines(bytes.value());
   AnalysisCase read;
   nameGroups(read);
+  read.openedFrom = fullPath;
   if (bytes.value().size() > kMostBytes) lines.refuseFile("The file is far too long for one.");
   if (bytes.value().empty()) lines.refuseFile("The file is empty.");
   readValues(lines, fullPath, read);

@@ -103,7 +103,9 @@ bool EngineRun::write(const std::string& path, const std::string& what,
                       const std::function<Status()>& operation) {
   const Status written = retryWhileBusy(operation, stop_.get_token());
   if (!written) return fail(what, written.error(), kFolderAdvice);
-  if (!keepFiles_) ownFiles_.push_back(path);
+  // A control file of this name that the wizard was filled from is replaced, but it is the user's.
+  const bool usersOwn = sameFile(path, case_.openedFrom);
+  if (!keepFiles_ && !usersOwn) ownFiles_.push_back(path);
   return !abandoned();
 }
 

@@ -85,6 +85,7 @@ void frmKORVENTALLY::openControlFiles(const std::vector<std::string>& paths) {
       paths.size() == 1 ? readControlFile(paths.front()) : tooManyFiles(paths);
   if (!opened) return sayWhyNotOpened(*this, opened.error());
   for (WizardStep* step : steps_) step->fill(opened.value());
+  basModule::analysisCase.openedFrom = opened.value().openedFrom;
   sayWhatCouldNotBeFilled(*this, opened.value());
 }
 

@@ -185,5 +185,20 @@ TEST_F(Opening, TakesADropWhileStepOneIsOpen) {
   });
 }
 
+TEST_F(Opening, KeepsTheUsersFileWhereARunDeletesItsOwn) {
+  const struct {
+    std::string file;
+    bool kept;
+  } rows[] = {{kStudy + "KorvenTally.INP", true}, {kFile, false}};
+  for (const auto& row : rows) {
+    const std::string bytes = save(caseOf(2), row.file);
+    inWizard([&](frmKORVENTALLY& w) { runUntouched(w); }, {row.file});
+    EXPECT_EQ(desktop.fileBytes(kStudy + "korventally.inp").has_value(), row.kept) << row.file;
+    EXPECT_EQ(desktop.fileBytes(row.file), bytes);
+    desktop.removeFile(kStudy + "korventally.inp");
+    desktop.removeFile(kStudy + "my list.lst");
+  }
+}
+
 }  // namespace
 }  // namespace korventally::testing
