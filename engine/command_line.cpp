@@ -34,7 +34,8 @@ std::string usage() {
 int import(const std::vector<NativePath>& arguments, const Console& console) {
   try {
     const ImportOptions options = parseImportOptions(arguments);
-    console.say(importModel(options, [&](const std::string& line) { console.sayInPassing(line); }));
+    console.say(
+        importModel(options, {[&](const std::string& line) { console.sayInPassing(line); }}));
     return 0;
   } catch (const std::bad_alloc&) {
     console.complain("korventally import: There is not enough memory.");

@@ -41,7 +41,7 @@ NativePath fullName(const NativePath& path) {
 
 class Import {
  public:
-  Import(const ImportOptions& options, const std::function<void(const std::string&)>& progress)
+  Import(const ImportOptions& options, const ImportProgress& progress)
       : options_(options), progress_(progress), folder_(fullName(options.folder)), out_(folder_) {}
 
   std::string run() {
@@ -108,13 +108,14 @@ class Import {
 
   Patience patience() const {
     return {[this](std::size_t) {
-      std::uint64_t read = 0, size = 1;  // never all of it before the end
-      for (const auto& file : files_) {
-        read += file->bytesRead();
-        size += file->size();
-      }
-      progress_("Reading: " + std::to_string(100 * read / size) + " %");
-    }};
+              std::uint64_t read = 0, size = 1;  // never all of it before the end
+              for (const auto& file : files_) {
+                read += file->bytesRead();
+                size += file->size();
+              }
+              progress_.say("Reading: " + std::to_string(100 * read / size) + " %");
+            },
+            progress_.interval};
   }
 
   std::string write() {
@@ -150,7 +151,7 @@ class Import {
   }
 
   const ImportOptions& options_;
-  const std::function<void(const std::string&)>& progress_;
+  const ImportProgress& progress_;
   const NativePath folder_;
   OutputFolder out_;
   std::vector<std::unique_ptr<InputFile>> files_;
@@ -161,8 +162,7 @@ class Import {
 
 }  // namespace
 
-std::string importModel(const ImportOptions& options,
-                        const std::function<void(const std::string&)>& progress) {
+std::string importModel(const ImportOptions& options, const ImportProgress& progress) {
   return Import(options, progress).run();
 }
 

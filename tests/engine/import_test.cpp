@@ -265,6 +265,30 @@ TEST(Import, TakesTheGroupsThatItIsTold) {
   EXPECT_NE(imports.report().find("No control file"), std::string::npos);
 }
 
+TEST(Import, TellsHowFarItIs) {
+  Imports imports;
+  const ModelText one("century/all.pst");
+  ModelText many = one;
+  many.rows.clear();
+  char date[16];
+  for (int hour = 0; hour < 700; ++hour) {
+    std::snprintf(date, sizeof date, "1001%02d%02d", hour / 24 + 1, hour % 24 + 1);
+    for (int copy = 0; copy < 9; ++copy) many.rows.push_back(one.rows[copy]);
+    for (int copy = 0; copy < 9; ++copy) many.rows.end()[-1 - copy].replace(89, 8, date);
+  }
+  imports.write("many.pst", many.text());
+  imports.interval = imports.interval.zero();
+  // A busy machine may look away for as long as one import takes.
+  for (int tries = 0; tries < 100 && imports.progress().empty(); ++tries) {
+    ASSERT_EQ(imports.run({"@many.pst", "--zero-hours", "valid"}), "");
+  }
+  ASSERT_FALSE(imports.progress().empty());
+  for (const std::string& line : imports.progress()) {
+    EXPECT_TRUE(line.starts_with("Reading: ") && line.ends_with(" %")) << line;
+    EXPECT_LT(std::stoi(line.substr(9)), 100) << line;
+  }
+}
+
 // Of each kind of difference between all sources and the groups: what it may mean.
 TEST(Import, SaysWhatTheGroupsLeaveOver) {
   struct Row {

@@ -30,7 +30,8 @@ std::string Imports::run(const std::vector<std::string>& arguments) {
     }
   }
   try {
-    report_ = importModel(parseImportOptions(all), [](const std::string&) {});
+    report_ = importModel(parseImportOptions(all),
+                          {[&](const std::string& line) { progress_.push_back(line); }, interval});
     return {};
   } catch (const Fault& fault) {
     const std::string words = withoutFolder(fault.what(), std::string(KORVENTALLY_TEST_DATA) + "/");

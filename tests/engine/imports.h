@@ -1,7 +1,7 @@
 // Imports of a dispersion model's files, each into a folder of its own.
 #pragma once
 
-#include <map>
+#include <chrono>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,6 +16,10 @@ class Imports {
   /// samples/dispersion, "@all.pst" one that write() made. Returns the sentence of the fault, empty
   /// when there is none; paths in it are without their folders.
   std::string run(const std::vector<std::string>& arguments);
+
+  /// How often progress is asked for, and what was said of it.
+  std::chrono::milliseconds interval{1000};
+  const std::vector<std::string>& progress() const { return progress_; }
 
   /// The report of the last import.
   const std::string& report() const { return report_; }
@@ -38,6 +42,7 @@ class Imports {
  private:
   Study study_;
   std::string report_;
+  std::vector<std::string> progress_;
 };
 
 /// Rows of a model's formatted file, to be changed: header lines, then rows.
