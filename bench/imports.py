@@ -3,7 +3,7 @@
 
 Usage: imports.py ENGINE [RECEPTORS]
 Writes a year of hours of two groups as a dispersion model prints them (250 receptors unless told
-otherwise), lets each read it in turns, and shows the best of five runs. awk and Python do what the
+otherwise), lets each read it in turns, and shows the best of nine runs. awk and Python do what the
 awk script of one's own did: a line per hour of one group, the values with their exponent.
 """
 import datetime
@@ -15,7 +15,7 @@ import tempfile
 
 from formats import seconds
 
-RUNS = 5
+RUNS = 9
 AWK = """!/^\\*/ { if ($9 != hour) { printf "\\n%s", $9; hour = $9 } printf " %sE-06", $3 }"""
 PYTHON = """
 import sys

@@ -29,6 +29,16 @@ class LineReader {
   /// kBlock of them. Empty at the end. Valid until the next call.
   std::string_view peek();
 
+  /// What has been read and not delivered, perhaps a part of a line; empty when nothing has. Valid
+  /// until the next call of another member.
+  std::string_view ahead() const { return {buffer_.data() + begin_, end_ - begin_}; }
+
+  /// Counts the line that ahead() begins with as delivered; it has so many bytes with its line end.
+  void skipLine(std::size_t bytes) {
+    begin_ += bytes;
+    ++lineNumber_;
+  }
+
   /// The number of lines delivered so far, which is the number of the line just delivered.
   std::uint64_t lineNumber() const { return lineNumber_; }
 

@@ -1,14 +1,12 @@
 #include <cstddef>
-#include <cstdint>
-#include <cstring>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
-#include <vector>
 
 #include "engine/calendar.h"
 #include "engine/fault.h"
+#include "engine/import/known_rows.h"
 #include "engine/import/model_data.h"
 #include "engine/import/model_header.h"
 #include "engine/import/model_value.h"
@@ -30,20 +28,6 @@ bool isZero(std::string_view field) {
   return mantissa.find_first_not_of(" -+.0") == mantissa.npos;
 }
 
-// Whether two texts of this size, at least eight bytes, are the same; the last eight may overlap
-// those before.
-bool isEqual(const char* one, const char* other, std::size_t size) {
-  std::uint64_t difference = 0, first, second;
-  const auto compare = [&](std::size_t place) {
-    std::memcpy(&first, one + place, sizeof first);
-    std::memcpy(&second, other + place, sizeof second);
-    difference |= first ^ second;
-  };
-  for (std::size_t place = 0; place + sizeof first < size; place += sizeof first) compare(place);
-  compare(size - sizeof first);
-  return difference == 0;
-}
-
 // Rows come in blocks: one hour, or another average, of one group at all receptors. The first block
 // tells how many receptors there are and where; all others must repeat it.
 class FormattedReader {
@@ -52,14 +36,43 @@ class FormattedReader {
       : file_(file), lines_(file, kLongestLine), reading_(reading), series_(file, reading) {}
 
   ModelData read() {
-    std::string_view line;
-    while (lines_.next(line)) take(line);
+    while (takeAhead() || takeNext()) {
+    }
     endBlock();
     refuseIncomplete();
     return series_.finish(std::move(data_));
   }
 
  private:
+  // The next row without a search for its end, if it is one as nearly all of them are: of the same
+  // hour, the next receptor, as long as the others, and with a value as it is mostly printed.
+  bool takeAhead() {
+    if (current_ == nullptr || count_ == 0 || row_ == count_) return false;
+    const std::string_view ahead = lines_.ahead();
+    const std::size_t size = known_.rowSize();
+    if (ahead.size() < size + 2) return false;
+    const std::size_t end = ahead[size] == '\r' ? size + 1 : size;
+    const std::string_view row = ahead.substr(0, size);
+    if (ahead[end] != '\n' || !isOfBlock(layout_->key(row)) || !known_.isAt(row, row_, *layout_) ||
+        !current_->addFixed(RowLayout::value(row))) {
+      return false;
+    }
+    lines_.skipLine(end + 1);
+    ++row_;
+    return true;
+  }
+
+  bool takeNext() {
+    std::string_view line;
+    if (!lines_.next(line)) return false;
+    take(line);
+    return true;
+  }
+
+  bool isOfBlock(std::string_view key) const {
+    return isEqual(key_.data(), key.data(), RowLayout::kKey);
+  }
+
   void take(std::string_view line) {
     if (line.starts_with('*')) {
       endBlock();
@@ -73,11 +86,10 @@ class FormattedReader {
     if (!layout_) learnLayout(row);
     if (row.size() < layout_->shortest()) refuse(" is cut short or no row of the model.");
     const std::string_view key = layout_->key(row);
-    if (row_ == count_ || key_.empty() || !isEqual(key_.data(), key.data(), RowLayout::kKey))
-      beginBlock(key);
+    if (row_ == count_ || key_.empty() || !isOfBlock(key)) beginBlock(key);
     if (count_ == 0) {
       learnPlace(row);
-    } else if (!isAtPlace(row)) {
+    } else if (!known_.isAt(row, row_, *layout_)) {
       refusePlace(row);
     }
     if (current_ != nullptr) {
@@ -145,19 +157,7 @@ class FormattedReader {
              " has stars in place of a coordinate: it did not fit there. Let the model run with "
              "smaller coordinates.");
     }
-    known_.emplace_back(RowLayout::place(row));
-    known_.back() += layout_->heights(row);
-    known_.back() += layout_->network(row);
-  }
-
-  bool isAtPlace(std::string_view row) const {
-    const std::string& known = known_[row_];
-    const std::string_view heights = layout_->heights(row), network = layout_->network(row);
-    const char* const at = known.data() + RowLayout::kPlace;
-    return isEqual(known.data(), row.data(), RowLayout::kPlace) &&
-           isEqual(at, heights.data(), heights.size()) &&
-           (network == std::string_view(known).substr(RowLayout::kPlace + heights.size()) ||
-            withoutBlanks(network) == data_.places[row_].network);
+    known_.learn(row);
   }
 
   void addValue(std::string_view field) {
@@ -222,7 +222,7 @@ class FormattedReader {
   ModelHeader header_;
   std::optional<RowLayout> layout_;
   ModelData data_;
-  std::vector<std::string> known_;  // place and heights of each receptor, as they stand in a row
+  KnownRows known_;
   SeriesSet series_;
   std::string key_;            // of the block; empty between blocks
   Series* current_ = nullptr;  // where its values go; none when they are left out

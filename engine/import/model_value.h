@@ -29,14 +29,13 @@ enum class ValueFault {
 ValueFault copyOtherValue(std::string_view field, ValueUnit unit, std::string& line,
                           double& number);
 
-/// Adds a value of a formatted file to `line`: a blank, the very digits, and the exponent lowered
-/// by six where the unit asks for it, so that nothing is rounded. `field` may have blanks around
-/// it; `number` becomes the value in the file's unit. A zero loses its sign. With a fault neither
-/// changes.
-inline ValueFault copyValue(std::string_view field, ValueUnit unit, std::string& line,
-                            double& number) {
-  const FixedValue value = field.size() == kFixedWidth ? fixedValue(field.data()) : FixedValue{};
-  if (value.digits < 0) return copyOtherValue(field, unit, line, number);
+/// Adds a value that is printed as F13.5, as copyValue() does; false, and nothing is added, for any
+/// other form.
+inline bool copyFixedValue(std::string_view field, ValueUnit unit, std::string& line,
+                           double& number) {
+  if (field.size() != kFixedWidth) return false;
+  const FixedValue value = fixedValue(field.data());
+  if (value.digits < 0) return false;
   // Copied whole, so that its length is no question; what is wanted begins at the last blank.
   constexpr std::array kToGrams = {'E', '-', '0', '6'};
   char text[1 + kFixedWidth + kToGrams.size()] = " ";
@@ -45,7 +44,17 @@ inline ValueFault copyValue(std::string_view field, ValueUnit unit, std::string&
   const std::size_t exponent = unit == ValueUnit::kMicrograms ? kToGrams.size() : 0;
   line.append(text + value.blanks, 1 + kFixedWidth - value.blanks + exponent);
   number = static_cast<double>(value.digits) / 1e5;
-  return ValueFault::kNone;
+  return true;
+}
+
+/// Adds a value of a formatted file to `line`: a blank, the very digits, and the exponent lowered
+/// by six where the unit asks for it, so that nothing is rounded. `field` may have blanks around
+/// it; `number` becomes the value in the file's unit. A zero loses its sign. With a fault neither
+/// changes.
+inline ValueFault copyValue(std::string_view field, ValueUnit unit, std::string& line,
+                            double& number) {
+  return copyFixedValue(field, unit, line, number) ? ValueFault::kNone
+                                                   : copyOtherValue(field, unit, line, number);
 }
 
 /// The same for a value of an unformatted file: the fewest digits that give it back.

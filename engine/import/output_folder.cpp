@@ -3,9 +3,11 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
+#include <filesystem>
 #include <mutex>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 #include "engine/fault.h"
 #include "engine/file_beginning.h"
@@ -27,7 +29,9 @@ std::string checksum(std::string_view content) {
   return text;
 }
 
-OutputFolder::OutputFolder(const NativePath& path) : path_(path), made_(makeFolder(path)) {}
+OutputFolder::OutputFolder(const NativePath& path) : path_(path), made_(makeFolder(path)) {
+  sweep();
+}
 
 OutputFolder::~OutputFolder() {
   // One that cannot be deleted begins with the mark: the next import deletes it.
@@ -39,12 +43,20 @@ NativePath OutputFolder::newPart() {
   const std::lock_guard lock(mutex_);
   for (;;) {
     NativePath part = path_ / ("import_" + std::to_string(++count_) + ".part");
-    if (fileExists(part)) {
-      if (!isOwn(part)) continue;
-      deleteFile(part);
-    }
+    if (fileExists(part)) continue;
     parts_.push_back(part);
     return part;
+  }
+}
+
+void OutputFolder::sweep() const {
+  std::error_code error;
+  for (const auto& entry : std::filesystem::directory_iterator(path_, error)) {
+    const std::string name = textFromPath(entry.path().filename());
+    const bool isPart = name.starts_with("import_") && name.ends_with(".part");
+    if (isPart && entry.is_regular_file(error) && isOwn(entry.path())) {
+      deleteIfPossible(entry.path());
+    }
   }
 }
 

@@ -17,7 +17,8 @@ inline constexpr std::string_view kImportMark = "# KorvenTally import";
 
 class OutputFolder {
  public:
-  /// Makes the folder when it is not there. Throws Fault.
+  /// Makes the folder when it is not there, and deletes what a killed import left there. Throws
+  /// Fault.
   explicit OutputFolder(const NativePath& path);
   OutputFolder(const OutputFolder&) = delete;
   OutputFolder& operator=(const OutputFolder&) = delete;
@@ -25,8 +26,7 @@ class OutputFolder {
   /// Deletes the part files that were not put in place, and the folder if it was made for them.
   ~OutputFolder();
 
-  /// A name for a part file, which is to begin with the mark; what an import that was killed left
-  /// under it goes. Any thread may ask.
+  /// A name for a part file, which is to begin with the mark. Any thread may ask.
   NativePath newPart();
 
   /// The path of a result. Throws Fault when a file of that name is there that is no import's.
@@ -43,6 +43,7 @@ class OutputFolder {
 
  private:
   bool isOwn(const NativePath& path) const;
+  void sweep() const;
 
   NativePath path_;
   bool made_ = false;

@@ -76,6 +76,13 @@ class Series {
     count(value);
     return fault;
   }
+  /// The same for a value that is printed as F13.5; false, and nothing is added, for another.
+  bool addFixed(std::string_view field) {
+    double value = 0;
+    if (!copyFixedValue(field, unit_, line_, value)) return false;
+    count(value);
+    return true;
+  }
   ValueFault add(double value) {
     const ValueFault fault = copyValue(value, unit_, line_);
     count(value);

@@ -108,6 +108,7 @@ TEST(ImportRefuses, AFileWithAFault) {
                  "line 27 goes on with 2010-07-16 02 behind 2010-07-16 02 of group ALL: this hour "
                  "comes twice."},
            Fault{[](Rows& rows) { rows[30].resize(80); }, "line 39 is cut short"},
+           Fault{[](Rows& rows) { rows[30] += "x"; }, "line 39 has receptor 4 at"},
        }) {
     Imports imports;
     ModelText text("plot/all.pst");

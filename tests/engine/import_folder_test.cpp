@@ -62,9 +62,11 @@ TEST(ImportFolder, KeepsTheLastResultsWhenAnImportFails) {
 TEST(ImportFolder, IsCleanedOfPartFiles) {
   Imports imports;
   imports.write("out/import_1.part", "# KorvenTally import: a part of what one was writing\n2010");
+  imports.write("out/import_77.part", "# KorvenTally import: a part of what one was writing\n2010");
   imports.write("out/import_2.part", "mine");
   ASSERT_EQ(imports.run(kFiles), "");
   EXPECT_EQ(imports.result("import_1.part"), "");
+  EXPECT_EQ(imports.result("import_77.part"), "");
   EXPECT_EQ(imports.result("import_2.part"), "mine");
   EXPECT_EQ(countFiles(imports), 6u);
 }

@@ -167,7 +167,10 @@ TEST(Import, GivesTheSameBytesForTheSameValues) {
   const std::vector<std::string> calms = {"--calms", "=plot/ERRORS.OUT"};
   ModelText old("plot/all.pst"), stripped("plot/all.pst");
   for (std::string& row : old.rows) row.erase(51, 18);  // ZHILL and ZFLAG
-  for (std::string& row : stripped.rows) row.erase(row.find_last_not_of(' ') + 1);
+  // Nine to an hour: of each receptor every other row.
+  for (std::size_t i = 1; i < stripped.rows.size(); i += 2) {
+    stripped.rows[i].erase(stripped.rows[i].find_last_not_of(' ') + 1);
+  }
   const std::string first = old.text(), second = stripped.text();
   std::string windows;
   for (const char c : readTestData("plot/all.pst"))
