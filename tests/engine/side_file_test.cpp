@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
 #include <string>
 
 #include "engine/page/page.h"
@@ -101,6 +102,23 @@ TEST(SideFile, IsGoneAfterARunThatFails) {
     }
   }
 }
+
+#ifdef _WIN32
+// A spreadsheet has the table open, which elsewhere keeps nobody from replacing it.
+TEST(SideFile, IsLeftAsItIsWhileAnotherProgramHoldsIt) {
+  for (const auto& file : kFiles) {
+    Study study;
+    completedList(study);
+    const std::string old = study.read(nameOf(file.ending));
+    study.line(15) = "11.0";  // no exceedance is left
+    const std::ifstream holder(study.path(nameOf(file.ending)));
+    const std::string list = completedList(study);
+    expectSays(warningsIn(list), {file.warning, nameOf(file.ending), "(error 32)"});
+    expectSilent(list, file.line);
+    EXPECT_EQ(study.read(nameOf(file.ending)), old);
+  }
+}
+#endif
 
 TEST(SideFile, SaysAtItsBeginningUntilTheEndThatItIsUnfinished) {
   const Study study;
