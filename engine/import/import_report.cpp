@@ -27,6 +27,8 @@ namespace {
 
 // Differences of means below this part of group 1 come from the decimals that the model printed.
 constexpr double kSmallPart = 1e-3;
+// Of a concentration file or the receptor file, in the wizard's boxes.
+constexpr std::size_t kLongestPath = 132;
 
 class Report {
  public:
@@ -187,6 +189,17 @@ class Report {
     line("     Start              " + start + " (year, month, day, hour)");
     line("     Run length         " + std::to_string(study_.hours()) + " hours");
     line("  5  List file          any name");
+    tellLongPaths(files);
+  }
+
+  void tellLongPaths(const std::vector<std::string>& files) {
+    const auto isLong = [&](const std::string& file) {
+      return folder_.size() + 1 + file.size() > kLongestPath;
+    };
+    if (std::ranges::none_of(files, isLong) && !isLong(std::string(kImportReceptors))) return;
+    paragraph(
+        "The wizard takes paths of up to " + std::to_string(kLongestPath) +
+        " characters, and some of these are longer: import into a folder with a shorter path.");
   }
 
   const ImportedStudy& study_;

@@ -142,6 +142,14 @@ TEST(Import, MakesConcentrationFilesReceptorsAndACase) {
   }
   EXPECT_EQ(imports.result("case.inp"), control);
   EXPECT_EQ(imports.result("import.txt"), imports.report());
+  EXPECT_EQ(imports.report().find("longer"), std::string::npos);
+  imports.folder += std::string(132 - path("receptors.dat").size(), 'x');
+  ASSERT_EQ(imports.run(with(kPlot, {"--calms", "=plot/ERRORS.OUT"})), "");
+  EXPECT_EQ(imports.report().find("longer"), std::string::npos);
+  imports.folder += "x";
+  ASSERT_EQ(imports.run(with(kPlot, {"--calms", "=plot/ERRORS.OUT"})), "");
+  EXPECT_NE(imports.report().find("up to 132 characters, and some of these are longer"),
+            std::string::npos);
 }
 
 // The model's own highest 3-hour average of all sources, and its place.

@@ -20,7 +20,7 @@ std::string withoutFolder(std::string text, const std::string& folder) {
 }  // namespace
 
 std::string Imports::run(const std::vector<std::string>& arguments) {
-  std::vector<NativePath> all = {"--out", study_.path("out")};
+  std::vector<NativePath> all = {"--out", study_.path(folder)};
   for (const std::string& argument : arguments) {
     const bool own = argument.starts_with('@');
     if (argument.starts_with('=')) {
@@ -40,11 +40,11 @@ std::string Imports::run(const std::vector<std::string>& arguments) {
 }
 
 std::string Imports::result(const std::string& name) const {
-  const auto path = study_.path("out") / name;
-  return std::filesystem::exists(path) ? study_.read("out/" + name) : "";
+  const auto path = study_.path(folder) / name;
+  return std::filesystem::exists(path) ? study_.read(folder + "/" + name) : "";
 }
 
-bool Imports::hasFolder() const { return std::filesystem::exists(study_.path("out")); }
+bool Imports::hasFolder() const { return std::filesystem::exists(study_.path(folder)); }
 
 void Imports::write(const std::string& name, std::string_view content) const {
   std::filesystem::create_directories(study_.path(name).parent_path());

@@ -17,6 +17,8 @@ class Imports {
   /// when there is none; paths in it are without their folders.
   std::string run(const std::vector<std::string>& arguments);
 
+  /// Where the results go.
+  std::string folder = "out";
   /// How often progress is asked for, and what was said of it.
   std::chrono::milliseconds interval{1000};
   const std::vector<std::string>& progress() const { return progress_; }
