@@ -52,7 +52,7 @@ class Avx2 {
     pairs_ = _mm256_or_si256(_mm256_slli_epi16(pairs_, 8), _mm256_srli_epi16(pairs_, 8));
   }
 
-  template <bool kExponent>
+  template <bool HasExponent>
   FOR_AVX2 static Marks marks(const char* text, char letter) {
     Marks marks;
     for (int i = 0; i < 64; i += 32) {
@@ -62,7 +62,7 @@ class Avx2 {
       marks.point |= bits(isPoint, i);
       marks.comma |= bits(is(',', bytes), i);
       marks.blank |= bits(_mm256_or_si256(is(' ', bytes), is('\t', bytes)), i);
-      if (kExponent) marks.letter |= bits(is(letter, bytes), i);
+      if (HasExponent) marks.letter |= bits(is(letter, bytes), i);
     }
     return marks;
   }

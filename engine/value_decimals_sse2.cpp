@@ -38,7 +38,7 @@ class Sse2 {
         all_(_mm_set1_pd(weights.all)),
         divisor_(_mm_set1_pd(divisor)) {}
 
-  template <bool kExponent>
+  template <bool HasExponent>
   static Marks marks(const char* text, char letter) {
     Marks marks;
     for (int i = 0; i < 64; i += 16) {
@@ -48,7 +48,7 @@ class Sse2 {
       marks.point |= bits(isPoint, i);
       marks.comma |= bits(is(',', bytes), i);
       marks.blank |= bits(_mm_or_si128(is(' ', bytes), is('\t', bytes)), i);
-      if (kExponent) marks.letter |= bits(is(letter, bytes), i);
+      if (HasExponent) marks.letter |= bits(is(letter, bytes), i);
     }
     return marks;
   }

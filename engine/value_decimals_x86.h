@@ -101,11 +101,11 @@ std::size_t addRest(Way& way, const EndsOfValues& ends, std::size_t i, std::size
   return taken;
 }
 
-template <class Way, bool kExponent>
+template <class Way, bool HasExponent>
 bool addDecimals(const DecimalForm& form, const char*& at, const char* lineEnd, double*& sum,
                  double* end) {
   Way way(kWeights[form.decimals], kPowers[form.decimals + static_cast<std::size_t>(form.power)]);
-  Ends<Way, kExponent> ends(form);
+  Ends<Way, HasExponent> ends(form);
   for (std::size_t i = 1; i > 0 && sum != end; sum += i) {
     const std::size_t count = std::min(ends.find(at, lineEnd), static_cast<std::size_t>(end - sum));
     for (i = 0; i + Way::kAtOnce <= count; i += Way::kAtOnce) {

@@ -30,7 +30,7 @@ struct Window {
 
 // Finds the ends of values in the order of the text. `Way` has the instructions of one processor:
 // marks() finds what a class of bytes is, and note() writes down places and may write kSpare more.
-template <class Way, bool kExponent>
+template <class Way, bool HasExponent>
 class Ends {
  public:
   using Place = std::uint16_t;
@@ -50,18 +50,18 @@ class Ends {
     Place* to = first;
     const auto room = static_cast<std::size_t>(lineEnd - at);
     for (std::size_t base = 0; base < kChunk; base += 64) {
-      Marks marks = Way::template marks<kExponent>(at + base, letter_);
+      Marks marks = Way::template marks<HasExponent>(at + base, letter_);
       const bool last = room - base < 64;
       if (last) keepWithin(room - base, marks);
       std::uint64_t bad = ~(marks.number | marks.blank | marks.comma | marks.letter);
       if (last) bad ^= std::uint64_t{1} << (room - base);
       std::uint64_t behind = 0;
-      if (kExponent) behind = takeExponents(marks, bad, carried);
+      if (HasExponent) behind = takeExponents(marks, bad, carried);
       const std::uint64_t ends = ~marks.number & (marks.number << 1 | carried.number);
-      if (kExponent) bad |= ends ^ marks.letter;
+      if (HasExponent) bad |= ends ^ marks.letter;
       bad |= notEndsOfDecimals(marks, ends, carried);
       if ((marks.comma | carried.comma) != 0) bad |= doubledCommas(marks, carried);
-      std::uint64_t all = kExponent ? behind : ends;
+      std::uint64_t all = HasExponent ? behind : ends;
       if (bad != 0) all &= (bad & -bad) - 1;
       to = Way::note(static_cast<unsigned>(base), all, to);
       if (last || bad != 0) break;
@@ -72,19 +72,19 @@ class Ends {
 
   /// The window of one of these values.
   Window window(std::size_t i) const {
-    const std::size_t tail = kExponent ? sizeof exponent_ : 0;
+    const std::size_t tail = HasExponent ? sizeof exponent_ : 0;
     const std::size_t before = places_[i], end = places_[i + 1];
     return {begin_ + end - tail, end - before - tail};
   }
 
   /// False when another exponent follows, or when the value may be longer than its window.
   bool fits(const Window& window) const {
-    return window.gap < Window::kSize && (!kExponent || fourBytes(window.end) == exponent_);
+    return window.gap < Window::kSize && (!HasExponent || fourBytes(window.end) == exponent_);
   }
 
   /// The same for a value behind a gap as wide as the window, which this makes no wider than that.
   bool fitsBehindGap(Window& window) const {
-    if (kExponent && fourBytes(window.end) != exponent_) return false;
+    if (HasExponent && fourBytes(window.end) != exponent_) return false;
     if (window.gap < Window::kSize) return true;
     window.gap = Window::kSize;
     const char c = *(window.end - Window::kSize);
