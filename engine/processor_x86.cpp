@@ -4,9 +4,9 @@
 namespace korventally::engine {
 
 bool hasAvx2() {
-  static const bool has = __builtin_cpu_supports("avx2") && __builtin_cpu_supports("bmi") &&
-                          __builtin_cpu_supports("bmi2") && __builtin_cpu_supports("popcnt");
-  return has;
+  static const bool kHas = __builtin_cpu_supports("avx2") && __builtin_cpu_supports("bmi") &&
+                           __builtin_cpu_supports("bmi2") && __builtin_cpu_supports("popcnt");
+  return kHas;
 }
 
 }  // namespace korventally::engine
