@@ -3,11 +3,13 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <iterator>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "engine/fault.h"
+#include "engine/import/file_names.h"
 #include "engine/import/model_value.h"
 #include "engine/system_files.h"
 #include "engine/text.h"
@@ -95,7 +97,7 @@ ImportOptions parseImportOptions(const std::vector<NativePath>& arguments) {
   for (std::size_t i = 0; i < arguments.size(); ++i) {
     const std::string word = textFromPath(arguments[i]);
     if (!word.starts_with("--")) {
-      options.files.push_back(arguments[i]);
+      std::ranges::copy(filesNamed(arguments[i]), std::back_inserter(options.files));
       continue;
     }
     const auto option = std::ranges::find(kOptions, std::string_view(word), &Option::name);

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "engine/import/file_names.h"
+#include "engine/system_files.h"
 #include "tests/engine/imports.h"
 
 namespace korventally::engine {
@@ -26,6 +28,30 @@ TEST(ImportFolder, HoldsTheResultsAndNothingElse) {
   EXPECT_EQ(countFiles(imports), 6u);
   EXPECT_EQ(imports.result("ALL.con"), before);
   EXPECT_NE(imports.result("case.inp").find("OTHER1.con"), std::string::npos);
+}
+
+// The interpreter of Windows hands such names over as they are.
+TEST(ImportFolder, IsReadByNamesWithStars) {
+  struct Row {
+    std::string pattern;
+    std::vector<std::string> files;
+  };
+  Imports imports;
+  for (const char* name : {"model/b.pst", "model/a.pst", "model/ab.pst", "model/a.txt"}) {
+    imports.write(name, "x");
+  }
+  for (const Row& row :
+       {Row{"*.pst", {"a.pst", "ab.pst", "b.pst"}}, Row{"?.pst", {"a.pst", "b.pst"}},
+        Row{"a*", {"a.pst", "a.txt", "ab.pst"}}, Row{"*b*t", {"ab.pst", "b.pst"}},
+        Row{"a.pst", {"a.pst"}}, Row{"**", {"a.pst", "a.txt", "ab.pst", "b.pst"}}}) {
+    std::vector<std::string> found;
+    for (const NativePath& file : filesNamed(imports.study().path("model") / row.pattern)) {
+      EXPECT_EQ(file.parent_path(), imports.study().path("model"));
+      found.push_back(textFromPath(file.filename()));
+    }
+    EXPECT_EQ(found, row.files) << row.pattern;
+  }
+  EXPECT_EQ(imports.run({"@model/?.x"}).substr(0, 30), "There is no file that fits mod");
 }
 
 // A file of somebody else, or one that was changed, stays; and so does everything beside it.
