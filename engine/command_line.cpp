@@ -60,16 +60,19 @@ int compute(const NativePath& controlFile, const Console& console) {
 
 int runCommandLine(const std::vector<NativePath>& arguments) {
   const Console console;
-  const std::string first = arguments.size() == 2 ? textFromPath(arguments[1]) : "";
-  if (first == "--help" || first == "/?") {
+  const std::string first = arguments.size() > 1 ? textFromPath(arguments[1]) : "";
+  const std::string last = arguments.size() > 1 ? textFromPath(arguments.back()) : "";
+  const bool isImport = first == "import" && arguments.size() > 2;
+  if ((arguments.size() == 2 || isImport) && (last == "--help" || last == "/?")) {
     console.say(usage());
     return 0;
   }
-  if (first == "--version") {
+  if (arguments.size() == 2 && first == "--version") {
     console.say(title());
     return 0;
   }
-  if (arguments.size() > 2 && textFromPath(arguments[1]) == "import") {
+  // Alone the word is a control file's name, if there is such a file.
+  if (isImport || (first == "import" && !fileExists(arguments[1]))) {
     return import({arguments.begin() + 2, arguments.end()}, console);
   }
   if (arguments.size() == 2) return compute(arguments[1], console);

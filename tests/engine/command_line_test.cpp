@@ -39,7 +39,7 @@ Said start(const Study& study, const std::string& argument, const std::string& o
 
 TEST(CommandLine, AnswersQuestionsAboutItself) {
   const Study study;
-  for (const std::string question : {"--help", "\"/?\"", "--version"}) {
+  for (const std::string question : {"--help", "\"/?\"", "--version", "import --help"}) {
     const Said said = start(study, question);
     EXPECT_EQ(said.exitCode, 0) << question;
     EXPECT_EQ(said.output.find("KORVENTALLY REFERENCE ENGINE, version "), 0u) << question;
@@ -87,6 +87,9 @@ TEST(CommandLine, ImportsAModelsFiles) {
   EXPECT_EQ(said.exitCode, 1);
   EXPECT_EQ(said.output, "");
   EXPECT_EQ(said.error.find("korventally import: --out FOLDER is missing"), 0u);
+  said = start(study, "import");
+  EXPECT_EQ(said.exitCode, 1);
+  EXPECT_EQ(said.error.find("korventally import: No file of a dispersion model is given."), 0u);
 }
 
 #ifndef _WIN32
