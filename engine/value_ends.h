@@ -1,7 +1,6 @@
 // Where values end: the first pass over fixed decimals, 64 bytes at once and a bit for each.
 #pragma once
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
