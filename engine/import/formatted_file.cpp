@@ -33,7 +33,10 @@ bool isZero(std::string_view field) {
 class FormattedReader {
  public:
   FormattedReader(InputFile& file, const Reading& reading)
-      : file_(file), lines_(file, kLongestLine), reading_(reading), series_(file, reading) {}
+      : file_(file),
+        lines_(file, kLongestLine),
+        reading_(reading),
+        series_(file, reading, "line") {}
 
   ModelData read() {
     while (takeAhead() || takeNext()) {
@@ -115,10 +118,10 @@ class FormattedReader {
     if (reading_.mayGiveUp()) throw Fault("Given up.");
     key_ = key;
     row_ = 0;
-    current_ = series_.choose(RowLayout::average(key), RowLayout::group(key), lines_.lineNumber());
+    current_ = series_.choose(RowLayout::average(key), RowLayout::group(key));
     hasValue_ = false;
     if (current_ == nullptr) return;
-    const std::string objection = current_->begin(hourOf(key));
+    const std::string objection = current_->begin(hourOf(key), lines_.lineNumber());
     if (!objection.empty()) refuse(objection);
   }
 

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -30,32 +31,39 @@ void addSeries(ImportedGroup& group, const SeriesFacts& series) {
   if (series.largest.value > group.largest.value) group.largest = series.largest;
 }
 
+// "all.pst, line 424": where the hour stands that a message is about.
+std::string placeOf(const SeriesFacts& series, std::uint64_t line) {
+  return series.file + ", " + series.lineWord + " " + std::to_string(line);
+}
+
+std::string beginOf(const SeriesFacts& series) { return placeOf(series, series.firstLine); }
+
+std::string endOf(const SeriesFacts& series) { return placeOf(series, series.lastLine); }
+
 void requireUnbroken(const ImportedGroup& group) {
   for (std::size_t i = 1; i < group.series.size(); ++i) {
     const SeriesFacts &before = *group.series[i - 1], &next = *group.series[i];
     if (next.first == before.last + 1) continue;
-    const std::string files = before.file + " ends with " + modelHourText(before.last) + ", and " +
-                              next.file + " begins with " + modelHourText(next.first) + ".";
+    const std::string files = endOf(before) + " ends with " + modelHourText(before.last) +
+                              ", and " + beginOf(next) + " begins with " +
+                              modelHourText(next.first) + ".";
     throw Fault("Group " + group.name +
                 (next.first <= before.last ? " has hours twice: " : " lacks hours: ") + files);
   }
 }
 
 void requireSameHours(const ImportedGroup& one, const ImportedGroup& other) {
-  const auto refuse = [&](const char* what, const std::string& file, Hour hour,
-                          const std::string& firstFile, Hour firstHour) {
-    throw Fault("Group " + other.name + " (" + file + ") " + what + " " + modelHourText(hour) +
-                ", but group " + one.name + " (" + firstFile + ") with " +
-                modelHourText(firstHour) + ". All groups of a case need the same hours.");
+  const auto require = [&](const char* what, Hour first, const std::string& firstPlace, Hour hour,
+                           const std::string& place) {
+    if (first == hour) return;
+    throw Fault("Group " + other.name + " (" + place + ") " + what + " " + modelHourText(hour) +
+                ", but group " + one.name + " (" + firstPlace + ") with " + modelHourText(first) +
+                ". All groups of a case need the same hours.");
   };
-  if (one.first() != other.first()) {
-    refuse("begins with", other.series.front()->file, other.first(), one.series.front()->file,
-           one.first());
-  }
-  if (one.last() != other.last()) {
-    refuse("ends with", other.series.back()->file, other.last(), one.series.back()->file,
-           one.last());
-  }
+  require("begins with", one.first(), beginOf(*one.series.front()), other.first(),
+          beginOf(*other.series.front()));
+  require("ends with", one.last(), endOf(*one.series.back()), other.last(),
+          endOf(*other.series.back()));
 }
 
 std::string namesOf(const std::vector<ImportedGroup>& groups) {

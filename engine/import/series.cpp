@@ -39,16 +39,16 @@ std::optional<Hour> hourOfModel(std::int64_t yymmddhh) {
                       yymmddhh / 100 % 100, hour);
 }
 
-Series::Series(std::string group, const InputFile& file, std::uint64_t line, const NativePath& part,
-               ValueUnit unit)
+Series::Series(std::string group, const InputFile& file, const char* lineWord,
+               const NativePath& part, ValueUnit unit)
     : file_(part, Creation::kNew), unit_(unit) {
   facts_.group = std::move(group);
   facts_.file = file.name();
-  facts_.line = line;
+  facts_.lineWord = lineWord;
   facts_.part = part;
 }
 
-std::string Series::begin(Hour hour) {
+std::string Series::begin(Hour hour, std::uint64_t line) {
   if (facts_.hours > 0 && hour != facts_.last + 1) {
     const std::string follows = " goes on with " + modelHourText(hour) + " behind " +
                                 modelHourText(facts_.last) + " of group " + facts_.group;
@@ -57,7 +57,11 @@ std::string Series::begin(Hour hour) {
     return follows + ": a gap of " + hoursText(hour - facts_.last - 1) +
            ". A case needs every hour of its run.";
   }
-  if (facts_.hours == 0) facts_.first = hour;
+  if (facts_.hours == 0) {
+    facts_.first = hour;
+    facts_.firstLine = line;
+  }
+  facts_.lastLine = line;
   facts_.last = hour_ = hour;
   receptor_ = 0;
   highest_ = 0;

@@ -34,11 +34,13 @@ struct LargestValue {
 /// What a series came to. Memory: a double per receptor and a line of zero hours.
 struct SeriesFacts {
   std::string group;
-  std::string file;         ///< where it came from, for messages
-  std::uint64_t line = 0;   ///< of its first row, or number of its first record
-  NativePath part;          ///< its hours, one line each as in a concentration file
-  std::uint64_t begin = 0;  ///< of the first hour's line in it
-  Hour first = 0;           ///< named by its end, so hour 24 is hour 0 of the next day
+  std::string file;             ///< where it came from, for messages
+  std::uint64_t firstLine = 0;  ///< where the first hour begins, and the last one
+  std::uint64_t lastLine = 0;
+  const char* lineWord = "";  ///< what those count: "line" or "record"
+  NativePath part;            ///< its hours, one line each as in a concentration file
+  std::uint64_t begin = 0;    ///< of the first hour's line in it
+  Hour first = 0;             ///< named by its end, so hour 24 is hour 0 of the next day
   Hour last = 0;
   std::uint64_t hours = 0;
   std::vector<ZeroHour> zeroHours;
@@ -63,11 +65,12 @@ std::string markText(HourKind mark);
 class Series {
  public:
   /// `part` is created. Throws Fault.
-  Series(std::string group, const InputFile& file, std::uint64_t line, const NativePath& part,
+  Series(std::string group, const InputFile& file, const char* lineWord, const NativePath& part,
          ValueUnit unit);
 
-  /// Begins an hour. Returns what is wrong, to follow the name of the place; empty when nothing is.
-  std::string begin(Hour hour);
+  /// Begins an hour at this line or record. Returns what is wrong, to follow the name of the place;
+  /// empty when nothing is.
+  std::string begin(Hour hour, std::uint64_t line);
 
   /// Adds the value of the next receptor.
   ValueFault add(std::string_view field) {

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -21,7 +20,7 @@ constexpr std::string_view kAverages = " averages";
 
 }  // namespace
 
-Series* SeriesSet::choose(std::string_view average, std::string_view group, std::uint64_t line) {
+Series* SeriesSet::choose(std::string_view average, std::string_view group) {
   isWitness_ = average == kHourly && !reading_.wants(group);
   if (average != kHourly) {
     leftOut_ = &rows_[std::string(average).append(kAverages)];
@@ -35,8 +34,8 @@ Series* SeriesSet::choose(std::string_view average, std::string_view group, std:
   const auto index = static_cast<std::size_t>(place - groups_.begin());
   if (place == groups_.end()) {
     groups_.emplace_back(group);
-    series_.push_back(
-        std::make_unique<Series>(groups_.back(), file_, line, reading_.newPart(), reading_.unit));
+    series_.push_back(std::make_unique<Series>(groups_.back(), file_, lineWord_, reading_.newPart(),
+                                               reading_.unit));
   }
   return series_[index].get();
 }

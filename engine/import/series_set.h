@@ -18,11 +18,12 @@ namespace korventally::engine {
 
 class SeriesSet {
  public:
-  SeriesSet(const InputFile& file, const Reading& reading) : file_(file), reading_(reading) {}
+  /// `lineWord`: what places in the file are, "line" or "record".
+  SeriesSet(const InputFile& file, const Reading& reading, const char* lineWord)
+      : file_(file), reading_(reading), lineWord_(lineWord) {}
 
-  /// Where rows of this average and group go; null when they are left out. `line` is that of the
-  /// first of them, or the number of their record.
-  Series* choose(std::string_view average, std::string_view group, std::uint64_t line);
+  /// Where rows of this average and group go; null when they are left out.
+  Series* choose(std::string_view average, std::string_view group);
 
   /// True when the last choice was to leave out hours of a group, which still tell that an hour
   /// was not calm.
@@ -40,6 +41,7 @@ class SeriesSet {
  private:
   const InputFile& file_;
   const Reading& reading_;
+  const char* const lineWord_;
   std::vector<std::string> groups_;
   std::vector<std::unique_ptr<Series>> series_;  // of these groups
   std::map<std::string, std::uint64_t> rows_;    // left out

@@ -35,7 +35,7 @@ Number numberAt(const char* bytes) {
 class UnformattedReader {
  public:
   UnformattedReader(InputFile& file, const Reading& reading, std::size_t receptors)
-      : file_(file), reading_(reading), receptors_(receptors), series_(file, reading) {}
+      : file_(file), reading_(reading), receptors_(receptors), series_(file, reading, "record") {}
 
   ModelData read() {
     while (nextRecord()) takeRecord();
@@ -84,7 +84,7 @@ class UnformattedReader {
     if (reading_.mayGiveUp()) throw Fault("Given up.");
     const char* record = bytes_.data();
     const std::string average = std::to_string(numberAt<std::int32_t>(record + 4)) + "-HR";
-    Series* series = series_.choose(average, withoutBlanks({record + 8, 8}), record_);
+    Series* series = series_.choose(average, withoutBlanks({record + 8, 8}));
     if (series != nullptr) return takeHour(*series);
     series_.leaveOut(1);
     if (series_.isWitness() && hasValue()) series_.hasValues(hour());
@@ -109,7 +109,7 @@ class UnformattedReader {
   }
 
   void takeHour(Series& series) {
-    const std::string objection = series.begin(hour());
+    const std::string objection = series.begin(hour(), record_);
     if (!objection.empty()) refuse(objection);
     // Of several kinds of values the concentrations of all receptors stand first.
     for (std::size_t i = 0; i < receptors_; ++i) {

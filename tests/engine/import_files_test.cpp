@@ -41,11 +41,11 @@ TEST(ImportRefuses, WhatIsNoHourlyConcentration) {
            Row{{"=gap/all.pst"}, "line 225 goes on with 2010-07-16 01 behind 2010-07-13 24"},
            Row{{"=plot/ERRORS.OUT"}, "is no row of a dispersion model's hourly output"},
            Row{{"=plot/all.pst", "=noheader/all.pst"},
-               "Group ALL has hours twice: plot/all.pst ends with 2010-07-17 24, and "
-               "noheader/all.pst begins with 2010-07-16 01."},
+               "Group ALL has hours twice: plot/all.pst, line 432 ends with 2010-07-17 24, and "
+               "noheader/all.pst, line 1 begins with 2010-07-16 01."},
            Row{{"=plot/facility.pst", "=offclock/all.pst"},
-               "Group FACILITY (plot/facility.pst) begins with 2010-07-16 01, but group ALL "
-               "(offclock/all.pst) with 2010-07-16 10."},
+               "Group FACILITY (plot/facility.pst, line 9) begins with 2010-07-16 01, but group "
+               "ALL (offclock/all.pst, line 9) with 2010-07-16 10."},
            Row{{"=plot/all.pst", "=plot/other1.pst"},
                "There is no group \"FACILITY\" in the files"},
            Row{{"=plot/facility.pst", "=plot/other1.pst"}, "they hold FACILITY, OTHER1. Say with"},
@@ -137,6 +137,16 @@ TEST(ImportRefuses, AFileWithAFault) {
     imports.write("own", row.bytes);
     expectRefused(imports, {"@own", "--receptors", "=plot/all.pst"}, row.words);
   }
+}
+
+TEST(ImportRefuses, AGroupThatEndsEarlier) {
+  Imports imports;
+  ModelText text("plot/facility.pst");
+  text.rows.resize(47 * 9);
+  imports.write("short.pst", text.text());
+  expectRefused(imports, {"=plot/all.pst", "@short.pst"},
+                "Group FACILITY (short.pst, line 423) ends with 2010-07-17 23, but group ALL "
+                "(plot/all.pst, line 432) with 2010-07-17 24.");
 }
 
 TEST(ImportRefuses, CalmHoursOfAnotherRun) {
