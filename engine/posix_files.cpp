@@ -1,19 +1,23 @@
 // The POSIX side of the engine's files; the native build and its sanitizers run on it.
+#include <dirent.h>
 #include <fcntl.h>
 #include <signal.h>
 #include <sys/stat.h>
 #include <time.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <atomic>
 #include <cerrno>
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
+#include <cstdlib>
 #include <iterator>
 #include <string>
 #include <string_view>
 #include <system_error>
+#include <vector>
 
 #include "engine/fault.h"
 #include "engine/system_files.h"
@@ -99,6 +103,33 @@ bool makeFolder(const NativePath& path) {
 }
 
 void removeEmptyFolder(const NativePath& path) { ::rmdir(path.c_str()); }
+
+std::vector<NativePath> filesIn(const NativePath& folder) {
+  std::vector<NativePath> names;
+  DIR* const all = ::opendir(folder.c_str());
+  if (all == nullptr) return names;
+  while (const dirent* const entry = ::readdir(all)) {
+    const NativePath name(entry->d_name);
+    struct stat state;
+    const bool known = ::stat((folder / name).c_str(), &state) == 0;
+    if (known && S_ISREG(state.st_mode)) names.push_back(name);
+  }
+  ::closedir(all);
+  std::ranges::sort(names);
+  return names;
+}
+
+NativePath fullName(const NativePath& path) {
+  NativePath full = path;
+  if (!path.is_absolute()) {
+    char* const here = ::getcwd(nullptr, 0);
+    if (here == nullptr) fail(path, "found", errno);
+    full = NativePath(here) / path;
+    std::free(here);
+  }
+  full = full.lexically_normal();
+  return full.has_filename() ? full : full.parent_path();
+}
 
 InputFile::InputFile(const NativePath& path) : path_(path) {
   const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);

@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace korventally::engine {
 
@@ -52,6 +53,13 @@ bool makeFolder(const NativePath& path);
 
 /// Deletes the folder if it is empty.
 void removeEmptyFolder(const NativePath& path);
+
+/// The names of the ordinary files in the folder, sorted; none when it cannot be read.
+std::vector<NativePath> filesIn(const NativePath& folder);
+
+/// The path from the root on, without "." and "..", and without a separator at its end. Throws
+/// Fault.
+NativePath fullName(const NativePath& path);
 
 /// A file open for reading from front to back. Others may read, write and delete it meanwhile.
 /// Only ordinary files: folders, devices and pipes are refused.

@@ -1,6 +1,7 @@
 // The Windows side of the engine's files: wide calls only, paths of any length.
 #include <windows.h>
 
+#include <algorithm>
 #include <atomic>
 #include <csignal>
 #include <cstdint>
@@ -8,6 +9,7 @@
 #include <exception>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "engine/fault.h"
 #include "engine/system_files.h"
@@ -200,6 +202,30 @@ bool makeFolder(const NativePath& path) {
 }
 
 void removeEmptyFolder(const NativePath& path) { RemoveDirectoryW(fullPath(path).c_str()); }
+
+std::vector<NativePath> filesIn(const NativePath& folder) {
+  std::vector<NativePath> names;
+  WIN32_FIND_DATAW found;
+  const HANDLE search = FindFirstFileW(fullPath(folder / L"*").c_str(), &found);
+  if (search == INVALID_HANDLE_VALUE) return names;
+  do {
+    if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0)
+      names.emplace_back(found.cFileName);
+  } while (FindNextFileW(search, &found));
+  FindClose(search);
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+NativePath fullName(const NativePath& path) {
+  std::wstring full(32768, L'\0');
+  const DWORD size =
+      GetFullPathNameW(path.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr);
+  if (size == 0 || size >= full.size()) fail(path, "found", GetLastError());
+  full.resize(size);
+  const NativePath name(full);
+  return name.has_filename() ? name : name.parent_path();
+}
 
 InputFile::InputFile(const NativePath& path) : path_(path) {
   const HANDLE handle = open(path, GENERIC_READ, OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN);

@@ -1,9 +1,6 @@
 #include "engine/import/file_names.h"
 
-#include <algorithm>
-#include <filesystem>
 #include <string_view>
-#include <system_error>
 #include <vector>
 
 #include "engine/fault.h"
@@ -49,16 +46,10 @@ std::vector<NativePath> filesNamed(const NativePath& name) {
   const bool isPattern = letters.find(kAny) != letters.npos || letters.find(kOne) != letters.npos;
   if (!isPattern || fileExists(name)) return {name};
   std::vector<NativePath> found;
-  std::error_code error;
-  const NativePath folder = name.has_parent_path() ? name.parent_path() : NativePath(".");
-  for (const auto& entry : std::filesystem::directory_iterator(folder, error)) {
-    const NativePath file = entry.path().filename();
-    if (entry.is_regular_file(error) && fits(file.native(), letters)) {
-      found.push_back(name.parent_path() / file);
-    }
+  for (const NativePath& file : filesIn(name.has_parent_path() ? name.parent_path() : ".")) {
+    if (fits(file.native(), letters)) found.push_back(name.parent_path() / file);
   }
   if (found.empty()) throw Fault("There is no file that fits " + textFromPath(name) + ".");
-  std::ranges::sort(found);
   return found;
 }
 

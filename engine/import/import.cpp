@@ -2,18 +2,15 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <filesystem>
 #include <functional>
 #include <memory>
 #include <optional>
 #include <string>
-#include <system_error>
 #include <vector>
 
 #include "engine/calendar.h"
 #include "engine/concentration_file.h"
 #include "engine/crew.h"
-#include "engine/fault.h"
 #include "engine/file_beginning.h"
 #include "engine/import/calm_hours.h"
 #include "engine/import/case_file.h"
@@ -30,14 +27,6 @@
 
 namespace korventally::engine {
 namespace {
-
-NativePath fullName(const NativePath& path) {
-  std::error_code error;
-  NativePath full = std::filesystem::absolute(path, error);
-  if (error) throw Fault("The folder " + textFromPath(path) + " has no full name.");
-  full = full.lexically_normal();
-  return full.has_filename() ? full : full.parent_path();
-}
 
 class Import {
  public:

@@ -3,11 +3,9 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
-#include <filesystem>
 #include <mutex>
 #include <string>
 #include <string_view>
-#include <system_error>
 
 #include "engine/fault.h"
 #include "engine/file_beginning.h"
@@ -50,13 +48,10 @@ NativePath OutputFolder::newPart() {
 }
 
 void OutputFolder::sweep() const {
-  std::error_code error;
-  for (const auto& entry : std::filesystem::directory_iterator(path_, error)) {
-    const std::string name = textFromPath(entry.path().filename());
+  for (const NativePath& file : filesIn(path_)) {
+    const std::string name = textFromPath(file);
     const bool isPart = name.starts_with("import_") && name.ends_with(".part");
-    if (isPart && entry.is_regular_file(error) && isOwn(entry.path())) {
-      deleteIfPossible(entry.path());
-    }
+    if (isPart && isOwn(path_ / file)) deleteIfPossible(path_ / file);
   }
 }
 
