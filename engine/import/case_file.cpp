@@ -44,7 +44,7 @@ std::string fileNameOf(std::string group) {
 
 // The path as the control file names it.
 std::string pathText(const NativePath& folder, std::string_view name) {
-  const NativePath path = folder / NativePath(name);
+  const NativePath path = folder / pathFromText(name);
   std::string text = textFromPath(path);
   if (pathFromText(text) != path) {
     throw Fault("The folder " + text +

@@ -276,6 +276,17 @@ TEST(Import, TakesTheGroupsThatItIsTold) {
   EXPECT_NE(imports.report().find("No control file"), std::string::npos);
 }
 
+// Bytes of the system's code page; the case must name the very files that were written.
+TEST(Import, TakesNamesWithLettersOfTheCodePage) {
+  Imports imports;
+  ModelText text("plot/other1.pst");
+  for (std::string& row : text.rows) row.replace(79, 8, "\x8AUMAVA  ");
+  imports.write("other.pst", text.text());
+  ASSERT_EQ(imports.run({"=plot/all.pst", "=plot/facility.pst", "@other.pst"}), "");
+  EXPECT_NE(imports.result("case.inp").find("\x8AUMAVA.con\r\n"), std::string::npos);
+  EXPECT_EQ(runCase(imports.study().path("out/case.inp")).sentence, "");
+}
+
 TEST(Import, TellsHowFarItIs) {
   Imports imports;
   const ModelText one("century/all.pst");
