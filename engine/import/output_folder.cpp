@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <mutex>
+#include <random>
 #include <string>
 #include <string_view>
 
@@ -27,7 +28,9 @@ std::string checksum(std::string_view content) {
   return text;
 }
 
-OutputFolder::OutputFolder(const NativePath& path) : path_(path), made_(makeFolder(path)) {
+// Two imports into one folder at a time must not take each other's part files for their own.
+OutputFolder::OutputFolder(const NativePath& path)
+    : path_(path), token_(std::to_string(std::random_device{}())), made_(makeFolder(path)) {
   sweep();
 }
 
@@ -39,12 +42,8 @@ OutputFolder::~OutputFolder() {
 
 NativePath OutputFolder::newPart() {
   const std::lock_guard lock(mutex_);
-  for (;;) {
-    NativePath part = path_ / ("import_" + std::to_string(++count_) + ".part");
-    if (fileExists(part)) continue;
-    parts_.push_back(part);
-    return part;
-  }
+  parts_.push_back(path_ / ("import_" + token_ + "_" + std::to_string(parts_.size()) + ".part"));
+  return parts_.back();
 }
 
 void OutputFolder::sweep() const {

@@ -1,7 +1,6 @@
 // The folder that an import writes into: either all of its results stand there, or none.
 #pragma once
 
-#include <cstddef>
 #include <mutex>
 #include <string>
 #include <string_view>
@@ -26,7 +25,8 @@ class OutputFolder {
   /// Deletes the part files that were not put in place, and the folder if it was made for them.
   ~OutputFolder();
 
-  /// A name for a part file, which is to begin with the mark. Any thread may ask.
+  /// A name for a part file, which is to begin with the mark; no other import has it. Any thread
+  /// may ask.
   NativePath newPart();
 
   /// The path of a result. Throws Fault when a file of that name is there that is no import's.
@@ -46,10 +46,10 @@ class OutputFolder {
   void sweep() const;
 
   NativePath path_;
+  std::string token_;  // of this import, in the names of its part files
   bool made_ = false;
   bool committed_ = false;
   std::mutex mutex_;
-  std::size_t count_ = 0;
   std::vector<NativePath> parts_;
   std::vector<std::pair<NativePath, NativePath>> results_;  // part, path
 };
