@@ -1,7 +1,6 @@
 #include "engine/model_file.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -9,6 +8,7 @@
 #include <vector>
 
 #include "engine/fields.h"
+#include "engine/import/row_layout.h"
 
 namespace korventally::engine {
 namespace {
@@ -37,14 +37,10 @@ bool isHeader(std::string_view bytes) {
 
 // X, Y, values and heights, then the average ("1-HR"), the group, the date.
 bool isRow(std::string_view line) {
-  constexpr std::array<std::string_view, 3> kLongAverages = {"MONTH", "PERIOD", "ANNUAL"};
   constexpr std::size_t kFieldsBefore = 4, kFieldsBehind = 2;
-  const auto isAverage = [&](std::string_view field) {
-    return field.ends_with("-HR") || std::ranges::find(kLongAverages, field) != kLongAverages.end();
-  };
   Fields fields(line);
   std::vector<bool> averages;
-  for (std::string_view field; fields.next(field);) averages.push_back(isAverage(field));
+  for (std::string_view field; fields.next(field);) averages.push_back(isModelAverage(field));
   if (averages.size() < kFieldsBefore + 1 + kFieldsBehind) return false;
   return std::find(averages.begin() + kFieldsBefore, averages.end() - kFieldsBehind, true) !=
          averages.end() - kFieldsBehind;

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "engine/fault.h"
+#include "engine/file_beginning.h"
 #include "engine/system_files.h"
 
 namespace korventally::engine {
@@ -16,15 +17,6 @@ constexpr std::size_t kEnough = 65536;
 
 std::string joined(std::string_view one, std::string_view other) {
   return std::string(one) + std::string(other);
-}
-
-std::string beginningOf(const NativePath& path, const Mark& mark) {
-  InputFile file(path);
-  std::string text(mark.whole.size() + mark.rest.size(), '\0');
-  std::size_t size = 0;
-  while (const std::size_t count = file.read(&text[size], text.size() - size)) size += count;
-  text.resize(size);
-  return text;
 }
 
 // A run that ended while it created the file may have left the mark's first bytes, or none.
@@ -43,8 +35,8 @@ SideFile::SideFile(const std::string& pathText, const std::string& role, const M
     return;
   }
   attempt([&] {
-    if (!sameFile(path_, path_)) return;
-    if (isOwn(beginningOf(path_, mark_), mark_)) {
+    if (!fileExists(path_)) return;
+    if (isOwn(beginningOf(path_, mark_.whole.size() + mark_.rest.size()), mark_)) {
       deleteFile(path_);
     } else {
       problem_ = file + "is not from an earlier run; it was left as it is.";

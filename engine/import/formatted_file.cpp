@@ -129,7 +129,7 @@ class FormattedReader {
     const std::string_view date = RowLayout::date(key);
     const auto number = parseWhole(date);
     const std::optional<Hour> hour = number ? hourOfModel(*number) : std::nullopt;
-    if (!hour) refuse(": " + inQuotes(date) + " is no hour (YYMMDDHH, HH from 01 to 24).");
+    if (!hour) refuse(noHourText(date));
     return *hour;
   }
 
@@ -172,9 +172,8 @@ class FormattedReader {
             " has stars in place of a value: it did not fit there. Let the model write it "
             "with FILEFORM EXP.");
       case ValueFault::kNegative:
-        refuseValue(": the value " + std::string(withoutBlanks(field)) +
-                    " is negative, an increment credit. Leave such sources out of the model's "
-                    "groups: concentrations below zero are not judged.");
+        refuseValue(": the value " + std::string(withoutBlanks(field)) + " is negative, " +
+                    kOfCredits);
       case ValueFault::kNoNumber:
         refuseValue(": " + inQuotes(withoutBlanks(field)) + " is no number.");
     }

@@ -25,6 +25,11 @@ enum class ValueFault {
   kNoNumber,
 };
 
+/// What to say behind "negative, " of such a value.
+inline constexpr const char* kOfCredits =
+    "an increment credit. Leave such sources out of the model's groups: concentrations below zero "
+    "are not judged.";
+
 /// copyValue() for any form of number.
 ValueFault copyOtherValue(std::string_view field, ValueUnit unit, std::string& line,
                           double& number);

@@ -35,9 +35,8 @@ Choice choose(const char* option, const NativePath& value, std::string_view firs
 }
 
 void setOnly(ImportOptions& options, const NativePath& value) {
-  std::string_view rest;
   const std::string text = textFromPath(value);
-  for (rest = text; !rest.empty();) {
+  for (std::string_view rest = text; !rest.empty();) {
     const std::size_t comma = std::min(rest.find(','), rest.size());
     if (comma > 0) options.only.emplace_back(rest.substr(0, comma));
     rest.remove_prefix(std::min(comma + 1, rest.size()));
@@ -86,7 +85,8 @@ const char* const kImportUsage =
     "  --unit ug/m3|g/m3        what the files hold (ug/m3)\n"
     "  --calms FILE             names the calm hours: the model's message or surface file\n"
     "  --zero-hours calm|valid  what hours of zeros everywhere are, where nothing names them\n"
-    "  --receptors FILE         X, Y, ID of the receptors, for unformatted files alone";
+    "  --receptors FILE         X, Y, ID of the receptors, or a formatted file, for unformatted "
+    "ones";
 
 bool ImportOptions::wants(std::string_view group) const {
   return only.empty() || std::ranges::find(only, group) != only.end();

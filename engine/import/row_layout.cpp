@@ -12,16 +12,12 @@ namespace {
 constexpr std::array<std::string_view, 3> kLongAverages = {"MONTH", "PERIOD", "ANNUAL"};
 constexpr std::size_t kHeight = 9;
 
-bool isAverage(std::string_view text) {
-  return text.ends_with("-HR") || std::ranges::find(kLongAverages, text) != kLongAverages.end();
-}
-
 bool isDate(std::string_view text) {
   return text.size() == 8 && text.find_first_not_of("0123456789") == text.npos;
 }
 
 bool isKey(std::string_view key) {
-  return key.starts_with("  ") && isAverage(RowLayout::average(key)) &&
+  return key.starts_with("  ") && isModelAverage(RowLayout::average(key)) &&
          isDate(RowLayout::date(key));
 }
 
@@ -44,6 +40,10 @@ std::string_view RowLayout::average(std::string_view key) {
 std::string_view RowLayout::group(std::string_view key) { return withoutBlanks(key.substr(10, 8)); }
 
 std::string_view RowLayout::date(std::string_view key) { return withoutBlanks(key.substr(20, 8)); }
+
+bool isModelAverage(std::string_view text) {
+  return text.ends_with("-HR") || std::ranges::find(kLongAverages, text) != kLongAverages.end();
+}
 
 std::string_view withoutBlanks(std::string_view text) {
   const std::size_t begin = text.find_first_not_of(' ');

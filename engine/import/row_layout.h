@@ -24,7 +24,6 @@ class RowLayout {
 
   static std::string_view x(std::string_view row) { return row.substr(1, kNumber); }
   static std::string_view y(std::string_view row) { return row.substr(15, kNumber); }
-  static std::string_view place(std::string_view row) { return row.substr(0, kPlace); }
   static std::string_view value(std::string_view row) { return row.substr(kPlace + 1, kNumber); }
   std::string_view heights(std::string_view row) const {
     return row.substr(kPlace + kField * values_, heightsEnd_ - kPlace - kField * values_);
@@ -56,6 +55,9 @@ class RowLayout {
   std::size_t values_;
   std::size_t heightsEnd_;
 };
+
+/// Whether a model calls an average so: "1-HR", "24-HR", "MONTH", "PERIOD", "ANNUAL".
+bool isModelAverage(std::string_view text);
 
 /// Text without the blanks around it.
 std::string_view withoutBlanks(std::string_view text);

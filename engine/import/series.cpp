@@ -5,6 +5,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "engine/calendar.h"
@@ -37,6 +38,10 @@ std::optional<Hour> hourOfModel(std::int64_t yymmddhh) {
   if (hour < 1 || yymmddhh < 0) return {};
   return hourFromDate(year + (year < 50 ? 2000 : 1900), yymmddhh / 10000 % 100,
                       yymmddhh / 100 % 100, hour);
+}
+
+std::string noHourText(std::string_view date) {
+  return ": " + inQuotes(date) + " is no hour (YYMMDDHH, HH from 01 to 24).";
 }
 
 Series::Series(std::string group, const InputFile& file, const char* lineWord,

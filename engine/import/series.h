@@ -53,6 +53,9 @@ struct SeriesFacts {
 /// 1950 to 1999. Nothing when there is no such date. The hour is counted as hourFromDate() does.
 std::optional<Hour> hourOfModel(std::int64_t yymmddhh);
 
+/// What to say, behind the name of the place, of a date that hourOfModel() does not take.
+std::string noHourText(std::string_view date);
+
 /// "2010-07-16 24": an hour as the model names it.
 std::string modelHourText(Hour hour);
 

@@ -104,7 +104,7 @@ class UnformattedReader {
   Hour hour() const {
     const auto date = numberAt<std::int32_t>(bytes_.data());
     const std::optional<Hour> hour = hourOfModel(date);
-    if (!hour) refuse(": " + std::to_string(date) + " is no hour (YYMMDDHH, HH from 01 to 24).");
+    if (!hour) refuse(noHourText(std::to_string(date)));
     return *hour;
   }
 
@@ -128,8 +128,7 @@ class UnformattedReader {
   [[noreturn]] void refuseValue(ValueFault fault, std::size_t receptor) const {
     refuse(", receptor " + std::to_string(receptor + 1) +
            (fault == ValueFault::kNegative
-                ? " has a negative value, an increment credit. Leave such sources out of the "
-                  "model's groups: concentrations below zero are not judged."
+                ? std::string(" has a value that is negative, ") + kOfCredits
                 : " has a value that is no number."));
   }
 

@@ -132,7 +132,7 @@ TEST(ImportRefuses, AFileWithAFault) {
         Row{binary.substr(0, 1000), "record 11 ends early: the file was cut short."},
         Row{binary.substr(0, 962), "record 11 ends early: the file was cut short."},
         Row{damaged, "record 2 does not end with its own length"},
-        Row{negative, "record 2, receptor 3 has a negative value"}}) {
+        Row{negative, "record 2, receptor 3 has a value that is negative, an"}}) {
     Imports imports;
     imports.write("own", row.bytes);
     expectRefused(imports, {"@own", "--receptors", "=plot/all.pst"}, row.words);
