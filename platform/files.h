@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <span>
 #include <string>
@@ -44,6 +45,8 @@ class FileReader {
   virtual ~FileReader() = default;
   /// Reads on from where the last read ended. Returns the number of bytes; 0 at the end.
   virtual Result<std::size_t> read(std::span<char> buffer) = 0;
+  /// The bytes that the file has now, however many of them have been read.
+  virtual Result<std::uint64_t> size() = 0;
 };
 Result<std::unique_ptr<FileReader>> openForReading(const std::string& path);
 

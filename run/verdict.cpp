@@ -1,8 +1,10 @@
 #include "run/verdict.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <stop_token>
 #include <string_view>
 #include <vector>
@@ -63,13 +65,19 @@ std::optional<Verdict> VerdictScanner::verdictOfLine() const {
 Result<std::optional<Verdict>> readVerdict(const std::string& path, const std::stop_token& stop) {
   auto file = openForReading(path);
   if (!file) return file.error();
+  const auto size = file.value()->size();
+  if (!size) return size.error();
   VerdictScanner scanner;
   std::vector<char> buffer(kChunk);
+  std::uint64_t left = size.value();
   std::uint32_t lastEvents = tickCount();
   while (!stop.stop_requested()) {
-    const auto count = file.value()->read(buffer);
+    const std::uint64_t most = std::min<std::uint64_t>(left, kChunk);
+    const auto count = file.value()->read(std::span(buffer).first(most));
     if (!count) return count.error();
+    // The end comes early when the file has been cut short.
     if (count.value() == 0) return scanner.verdict();
+    left -= count.value();
     scanner.feed({buffer.data(), count.value()});
     if (tickCount() - lastEvents >= kMostWithoutEvents) {
       processPendingEvents();

@@ -35,9 +35,10 @@ class VerdictScanner {
   std::optional<Verdict> verdict_;
 };
 
-/// Reads a list file from its first byte to its last and returns its verdict, or none; an error
-/// when it could not be read to its end. Events are handled while a large file is read;
-/// a request to `stop` ends the reading without a verdict.
+/// Reads a list file from its first byte to the last that it has at the beginning, and returns its
+/// verdict, or none; an error when it could not be read that far. What is written meanwhile is left
+/// to the next look, or a file that grows fast enough would never be read to its end. Events are
+/// handled while a large file is read; a request to `stop` ends the reading without a verdict.
 Result<std::optional<Verdict>> readVerdict(const std::string& path,
                                            const std::stop_token& stop = {});
 

@@ -117,6 +117,10 @@ void Desktop::failCall(Operation operation, int nth, Error error, bool fromThenO
   world_->faults.plan(operation, nth, std::move(error), fromThenOn);
 }
 
+void Desktop::beforeEach(Operation operation, std::function<void()> action) {
+  world_->faults.doBefore(operation, std::move(action));
+}
+
 int Desktop::calls(Operation operation) const { return world_->faults.calls(operation); }
 
 std::uint32_t Desktop::now() const { return world_->clock.ticks(); }

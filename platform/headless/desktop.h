@@ -49,6 +49,8 @@ class Desktop {
   enum class Operation { kDelete, kWrite, kOpen, kRead, kStart };
   void failCall(Operation operation, int nth, Error error, bool fromThenOn = false);
   int calls(Operation operation) const;
+  /// What another program does just before each call of an operation.
+  void beforeEach(Operation operation, std::function<void()> action);
 
   // Time: every yield moves the clock by `kYieldStep` milliseconds.
   static constexpr std::uint32_t kYieldStep = 5;

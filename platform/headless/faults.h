@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -17,6 +18,9 @@ class Faults {
   void plan(Desktop::Operation operation, int nth, Error error, bool fromThenOn) {
     planned_[operation].push_back({nth, std::move(error), fromThenOn});
   }
+  void doBefore(Desktop::Operation operation, std::function<void()> action) {
+    meanwhile_[operation] = std::move(action);
+  }
   int calls(Desktop::Operation operation) const {
     const auto found = calls_.find(operation);
     return found == calls_.end() ? 0 : found->second;
@@ -25,6 +29,9 @@ class Faults {
   /// Counts a call on `path`; the error that it is to give, or none.
   std::optional<Error> call(Desktop::Operation operation, const std::string& path) {
     const int nth = ++calls_[operation];
+    if (const auto meanwhile = meanwhile_.find(operation); meanwhile != meanwhile_.end()) {
+      meanwhile->second();
+    }
     for (const Fault& fault : planned_[operation]) {
       if (nth != fault.nth && !(fault.fromThenOn && nth > fault.nth)) continue;
       Error error = fault.error;
@@ -42,6 +49,7 @@ class Faults {
   };
   std::map<Desktop::Operation, std::vector<Fault>> planned_;
   std::map<Desktop::Operation, int> calls_;
+  std::map<Desktop::Operation, std::function<void()>> meanwhile_;
 };
 
 }  // namespace korventally::headless

@@ -1,6 +1,7 @@
 #include "platform/files.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <span>
@@ -80,6 +81,8 @@ class Reader : public FileReader {
     at_ += count;
     return count;
   }
+
+  Result<std::uint64_t> size() override { return std::uint64_t{bytes_->size()}; }
 
  private:
   const std::string path_;

@@ -69,5 +69,18 @@ TEST(ReadVerdict, NeedsAFileThatCanBeReadToItsEnd) {
   EXPECT_FALSE(read()) << "locked";
 }
 
+TEST(ReadVerdict, ReadsAsFarAsTheFileWentWhenItBegan) {
+  Desktop desktop;
+  const std::string list = "C:\\S\\a.lst";
+  desktop.putFile(list, std::string(600'000, '\n') + "RUN FAILED\n");
+  desktop.beforeEach(Desktop::Operation::kRead, [&] {
+    ASSERT_LT(desktop.calls(Desktop::Operation::kRead), 10) << "the reading never ends";
+    desktop.appendFile(list, std::string(400'000, '\n') + "RUN COMPLETED\n");
+  });
+  EXPECT_EQ(readVerdict(list).value(), kFailed);
+  desktop.beforeEach(Desktop::Operation::kRead, [] {});
+  EXPECT_EQ(readVerdict(list).value(), kCompleted) << "the rest is for the next look";
+}
+
 }  // namespace
 }  // namespace korventally::testing

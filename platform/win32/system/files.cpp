@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <span>
@@ -82,6 +83,12 @@ class Win32FileReader : public FileReader {
     if (ReadFile(file_.get(), buffer.data(), size, &count, nullptr)) return std::size_t{count};
     if (GetLastError() == ERROR_HANDLE_EOF) return std::size_t{0};
     return lastError(path_);
+  }
+
+  Result<std::uint64_t> size() override {
+    LARGE_INTEGER size;
+    if (!GetFileSizeEx(file_.get(), &size)) return lastError(path_);
+    return static_cast<std::uint64_t>(size.QuadPart);
   }
 
  private:

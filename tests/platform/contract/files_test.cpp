@@ -236,10 +236,12 @@ TEST_F(Files, LetOthersWriteAndDeleteWhileTheyAreRead) {
   const auto opened = openForReading(path);
   ASSERT_TRUE(opened);
   FileReader& reader = *opened.value();
+  EXPECT_EQ(reader.size().value(), 6u);
   EXPECT_EQ(restOf(reader), "RUN \r\n");
   EXPECT_EQ(restOf(reader), "");
   const std::string late("COM\0PLETED", 10);
   world.append(path, late);
+  EXPECT_EQ(reader.size().value(), 16u) << "as it is now";
   EXPECT_EQ(restOf(reader), late);
   const auto second = openForReading(path);
   ASSERT_TRUE(second);
