@@ -124,12 +124,20 @@ bool EngineRun::keepWaitingOrAsk(const std::string& doubt) {
 
 void EngineRun::finish() {
   phase_ = Phase::kOver;
+  releaseBatchFile();
   for (const std::string& path : std::exchange(ownFiles_, {})) {
     const Status removed = removeOwnFile(path);
     if (removed) continue;
     showFailure(&window_, "A file of the run could not be deleted:", removed.error(),
                 kLeftoverAdvice);
   }
+}
+
+/// An engine may live on after its verdict, and its interpreter with it. That would go on reading
+/// in the batch file of a later run, or hold this one open, so that it goes only when the engine
+/// ends, and what the later run has written under its name goes with it.
+void EngineRun::releaseBatchFile() {
+  if (processes_ && !keepFiles_) processes_->endInterpreter();
 }
 
 void EngineRun::abandon() {

@@ -66,6 +66,7 @@ class EngineRun {
   std::string doubtWithoutListFile(bool gone) const;
   std::string doubtAfter(const Reading& read, bool gone);
   bool keepWaitingOrAsk(const std::string& doubt);
+  void releaseBatchFile();
 
   bool processesGone() const { return !processes_->running(); }
   bool abandoned() const { return stop_.stop_requested(); }

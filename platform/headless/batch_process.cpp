@@ -67,8 +67,7 @@ void BatchProcess::runCommand(const std::vector<std::string>& words) {
   } else if (words.size() == 2 && command == "notepad") {
     world().notepad.push_back(words[1]);
     waiting_ = true;
-    // Nobody closes notepad here, and some interpreters keep the batch file open meanwhile.
-    Desktop::current().lockFile(path_, kForEver);
+    holdBatchFile();  // for ever: nobody closes notepad here
   } else if (words.size() == 1 && command == "pause") {
     waiting_ = true;
   } else {
@@ -83,12 +82,22 @@ void BatchProcess::startEngine(const std::string& program, const std::string& co
   if (!fileExists(program)) return;
   ++world().enginesStarted;
   waiting_ = true;
+  holdBatchFile();
   engine_ = std::make_shared<EngineProcess>(controlFile,
                                             [weak = weak_from_this()] { weak.lock()->goOn(); });
   if (world().script) world().script(*engine_);
 }
 
+void BatchProcess::holdBatchFile() const { Desktop::current().lockFile(path_, kForEver); }
+
+void BatchProcess::letGoOfBatchFile() const {
+  if (Desktop::current().fileBytes(path_)) Desktop::current().lockFile(path_, 0);
+}
+
 void BatchProcess::goOn() {
+  // Ended meanwhile, which the engine has outlived: the file is no longer this interpreter's.
+  if (!running_) return (void)(engine_ = nullptr);
+  letGoOfBatchFile();
   engine_ = nullptr;
   waiting_ = false;
   runLines();
@@ -100,8 +109,8 @@ void BatchProcess::terminate() {
 }
 
 void BatchProcess::endInterpreter() {
+  if (running_) letGoOfBatchFile();
   running_ = false;
-  if (Desktop::current().fileBytes(path_)) Desktop::current().lockFile(path_, 0);
 }
 
 }  // namespace korventally::headless

@@ -25,6 +25,9 @@ class BatchProcess : public std::enable_shared_from_this<BatchProcess> {
   void runLines();
   void runCommand(const std::vector<std::string>& words);
   void startEngine(const std::string& program, const std::string& controlFile);
+  /// Some interpreters keep the file open for as long as a program runs that it has started.
+  void holdBatchFile() const;
+  void letGoOfBatchFile() const;
   /// The last program has ended.
   void goOn();
 

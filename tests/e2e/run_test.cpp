@@ -114,6 +114,22 @@ TEST_F(Run, CanBeRepeatedAndLeftWhileTheEditorOpens) {
   EXPECT_TRUE(exists("korventally.lst"));
 }
 
+TEST_F(Run, LeavesNothingToTheNextOneWhenItsEngineLivesOn) {
+  const Installation installation("lingers");
+  const Program program(installation.path());
+  const Form summary = start(program);
+  summary.click("chkAutoOpen");
+  expectVerdict(summary);
+  // While the first engine lives, its interpreter may hold the batch file: what the next run writes
+  // under that name would go with it.
+  EXPECT_TRUE(ownFilesAreGone());
+  summary.click("cmdRUN");
+  EXPECT_TRUE(waitUntil([&] { return !summary.usable("cmdRUN"); }, 3s));
+  expectVerdict(summary);
+  std::error_code refused;
+  EXPECT_TRUE(waitUntil([&] { return fs::remove(installation.engine(), refused); }));
+}
+
 TEST_F(Run, SaysThatTheEngineIsMissingBeforeAnythingIsWritten) {
   const Installation installation;
   fs::remove(installation.engine());

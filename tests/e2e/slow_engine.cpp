@@ -58,5 +58,7 @@ int wmain(int count, wchar_t** arguments) {
   }
   if (behaviour == "takes its time") Sleep(3000);
   list << "RUN COMPLETED\n";
+  list.close();
+  if (behaviour == "lingers") Sleep(4000);
   return 0;
 }

@@ -135,6 +135,21 @@ TEST_F(RunSummary, HandsTheEngineTheControlFileOfTheCase) {
   EXPECT_NE(bytes.find(":NOX\r\n"), std::string::npos);
 }
 
+TEST_F(RunSummary, AnEngineThatLivesOnIsNoObstacleToTheNextRun) {
+  engineWrites({{100, "RUN COMPLETED"}}, 4000);
+  inSummary([&](frmRunSummary& s) {
+    s.chkAutoOpen.setChecked(false);
+    for (int run = 1; run <= 2; ++run) {
+      click(s.cmdRUN);
+      expectIdle(s, kDone);
+      EXPECT_EQ(leftovers(), std::vector<std::string>{"korventally.lst"});
+      EXPECT_TRUE(desktop.enginesRunning()) << "it is not ended either";
+    }
+    desktop.advance(8000);
+    EXPECT_FALSE(desktop.enginesRunning());
+  });
+}
+
 TEST_F(RunSummary, DebugModeKeepsTheFilesAndPauses) {
   inSummary([&](frmRunSummary& s) {
     theCase.DebugMode = true;
