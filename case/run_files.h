@@ -9,7 +9,8 @@ namespace korventally {
 inline constexpr const char* kControlFile = "korventally.inp";
 inline constexpr const char* kBatchFile = "run_korventally.bat";
 inline constexpr const char* kEditorBatchFile = "open_file.bat";
-inline constexpr std::array kOwnFiles = {kControlFile, kBatchFile, kEditorBatchFile};
+inline constexpr const char* kClaimFile = "korventally.lock";
+inline constexpr std::array kOwnFiles = {kControlFile, kBatchFile, kEditorBatchFile, kClaimFile};
 
 /// The name offered for the engine's list file.
 inline constexpr const char* kDefaultListFile = "korventally.lst";

@@ -50,6 +50,16 @@ class FileReader {
 };
 Result<std::unique_ptr<FileReader>> openForReading(const std::string& path);
 
+/// A file that is gone when this object or its process is, however that ends. Everybody can read
+/// it; nobody else can write, delete or hold it meanwhile.
+class HeldFile {
+ public:
+  virtual ~HeldFile() = default;
+};
+/// Makes a file of these bytes such a file, also one that is there already. kBusy while somebody
+/// else has it.
+Result<std::unique_ptr<HeldFile>> holdFile(const std::string& path, const std::string& bytes);
+
 /// Text in Windows' ANSI code page as UTF-8, and back; an error (kNotAnsi) when a character is
 /// lacking, never a look-alike.
 std::string fromAnsi(std::string_view bytes);

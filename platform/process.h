@@ -10,6 +10,9 @@ namespace korventally {
 /// The folder of the running program; no final backslash, except for the root of a drive.
 std::string installationDirectory();
 
+/// Whose process this is, in words: its number, the user and the computer.
+std::string thisProcess();
+
 enum class WindowStyle { kHidden, kNormalFocus };
 
 /// The command interpreter that reads a batch file, with every process that it starts; without

@@ -131,6 +131,7 @@ void EngineRun::finish() {
     showFailure(&window_, "A file of the run could not be deleted:", removed.error(),
                 kLeftoverAdvice);
   }
+  claim_.reset();
 }
 
 /// An engine may live on after its verdict, and its interpreter with it. That would go on reading
@@ -145,6 +146,7 @@ void EngineRun::abandon() {
   if (processes_) processes_->terminate();
   // What cannot be deleted at once is tried again, and reported, when the run's handler unwinds.
   std::erase_if(ownFiles_, [](const std::string& path) { return deleteFile(path).ok(); });
+  if (ownFiles_.empty()) claim_.reset();
 }
 
 /// Waits while events are handled; false when the run was abandoned meanwhile.

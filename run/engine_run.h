@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "case/basModule.h"
+#include "platform/files.h"
 #include "platform/label.h"
 #include "platform/process.h"
 #include "platform/result.h"
@@ -30,7 +31,8 @@ class EngineRun {
   EngineRun(const EngineRun&) = delete;
   EngineRun& operator=(const EngineRun&) = delete;
 
-  /// Checks that the engine is there and can be given every name, deletes an old batch file and
+  /// Checks that the engine is there and can be given every name and that no other window runs a
+  /// case in the working directory, deletes an old batch file and
   /// list file, and writes the control file and the batch file. False when that was not possible,
   /// or when the run was abandoned; then the engine must not start.
   bool prepare();
@@ -53,6 +55,8 @@ class EngineRun {
 
   bool checkEngine();
   bool checkCodePage();
+  bool claimWorkDir();
+  bool sayWhoRuns();
   bool removeOldBatchFile();
   bool removeOldListFile();
   bool writeControlFile();
@@ -82,6 +86,7 @@ class EngineRun {
   Phase phase_ = Phase::kPreparing;
   std::stop_source stop_;              ///< requested by `abandon`; every wait of the run ends then
   std::vector<std::string> ownFiles_;  ///< written and still to be deleted
+  std::unique_ptr<HeldFile> claim_;    ///< on the working directory, as long as files are there
   std::unique_ptr<BatchRun> processes_;
   Patience patience_;
 };

@@ -11,6 +11,7 @@
 #include "run/batch_file.h"
 #include "run/control_file.h"
 #include "run/engine_run.h"
+#include "run/folder_claim.h"
 
 namespace korventally {
 namespace {
@@ -31,8 +32,8 @@ Status nothingAt(const std::string& path) {
 }  // namespace
 
 bool EngineRun::prepare() {
-  return checkEngine() && checkCodePage() && removeOldBatchFile() && removeOldListFile() &&
-         writeControlFile() && wait(kBeforeBatchFile) && writeBatchFile();
+  return checkEngine() && checkCodePage() && claimWorkDir() && removeOldBatchFile() &&
+         removeOldListFile() && writeControlFile() && wait(kBeforeBatchFile) && writeBatchFile();
 }
 
 bool EngineRun::checkEngine() {
@@ -61,6 +62,33 @@ bool EngineRun::checkCodePage() {
     return false;
   }
   return true;
+}
+
+/// Before anything is deleted or written: what is there may be another window's.
+bool EngineRun::claimWorkDir() {
+  const Status claimed = retryWhileBusy(
+      [this]() -> Status {
+        auto claim = claimFolder(case_.WorkDir);
+        if (!claim) return claim.error();
+        claim_ = std::move(claim.value());
+        return {};
+      },
+      stop_.get_token());
+  if (claimed || abandoned()) return !abandoned();
+  if (claimed.error().kind == ErrorKind::kBusy) return sayWhoRuns();
+  return fail("The working directory could not be reserved for this run:", claimed.error(),
+              kFolderAdvice);
+}
+
+bool EngineRun::sayWhoRuns() {
+  const std::string holder = holderOfClaim(case_.WorkDir);
+  messageBox(&window_,
+             "Another KorvenTally window is running a case in this working directory:\n" +
+                 case_.WorkDir + "\n\n" + (holder.empty() ? "" : "It is " + holder + ".\n\n") +
+                 "Nothing of that run was touched. Please wait until it has ended, or choose "
+                 "another working directory, then press RUN again.",
+             kErrorTitle);
+  return false;
 }
 
 bool EngineRun::removeOldBatchFile() {

@@ -46,7 +46,7 @@ class Desktop {
 
   // Faults: the n-th call (from 1) of an operation fails with the error, and with `fromThenOn`
   // every later call too.
-  enum class Operation { kDelete, kWrite, kOpen, kRead, kStart };
+  enum class Operation { kDelete, kWrite, kOpen, kRead, kHold, kStart };
   void failCall(Operation operation, int nth, Error error, bool fromThenOn = false);
   int calls(Operation operation) const;
   /// What another program does just before each call of an operation.

@@ -18,6 +18,7 @@ struct Node {
   /// Shared with whoever has the file open, so that a deleted file can still be read to its end.
   std::shared_ptr<std::string> bytes;
   std::uint64_t lockedUntil = 0;
+  bool held = false;  ///< by this program or another one, who lets others read it only
 };
 
 /// All files and folders of the world. Paths are full paths.

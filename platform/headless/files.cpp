@@ -47,9 +47,16 @@ Result<Node*> usableFile(const FullPath& path) {
   return node;
 }
 
+/// Such a file that nobody holds.
+Result<Node*> freeFile(const FullPath& path) {
+  Result<Node*> file = usableFile(path);
+  if (file && file.value()->held) return systemError(kSharingViolation, path.text);
+  return file;
+}
+
 /// Why a file of that name cannot be created or replaced.
 std::optional<Error> obstacle(const FullPath& path) {
-  const Result<Node*> file = usableFile(path);
+  const Result<Node*> file = freeFile(path);
   if (file) {
     // Windows replaces neither a read-only file nor, unasked, a hidden one.
     if (file.value()->attribute == Desktop::Attribute::kNormal) return std::nullopt;
@@ -69,6 +76,17 @@ Result<std::string> bytesOf(const std::vector<std::string>& lines) {
   }
   return bytes;
 }
+
+class Holder : public HeldFile {
+ public:
+  explicit Holder(std::string path) : path_(std::move(path)) {}
+  ~Holder() override { world().files.remove(path_); }
+  Holder(const Holder&) = delete;
+  Holder& operator=(const Holder&) = delete;
+
+ private:
+  const std::string path_;
+};
 
 class Reader : public FileReader {
  public:
@@ -127,7 +145,7 @@ Status deleteFile(const std::string& path) {
   const auto full = resolve(path);
   if (!full) return full.error();
   if (auto error = world().faults.call(Operation::kDelete, full.value().text)) return *error;
-  const Result<Node*> file = usableFile(full.value());
+  const Result<Node*> file = freeFile(full.value());
   if (!file) return file.error();
   if (file.value()->attribute == Desktop::Attribute::kReadOnly) {
     return systemError(kAccessDenied, full.value().text);
@@ -164,6 +182,15 @@ Result<std::unique_ptr<FileReader>> openForReading(const std::string& path) {
   const Result<Node*> file = usableFile(full.value());
   if (!file) return file.error();
   return std::unique_ptr<FileReader>(std::make_unique<Reader>(*file.value()));
+}
+
+Result<std::unique_ptr<HeldFile>> holdFile(const std::string& path, const std::string& bytes) {
+  const auto full = resolve(path);
+  if (!full) return full.error();
+  if (auto error = world().faults.call(Operation::kHold, full.value().text)) return *error;
+  if (auto error = obstacle(full.value())) return *error;
+  world().files.put(full.value().text, bytes).held = true;
+  return std::unique_ptr<HeldFile>(std::make_unique<Holder>(full.value().text));
 }
 
 }  // namespace korventally

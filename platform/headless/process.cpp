@@ -27,6 +27,8 @@ class SimulatedRun : public BatchRun {
 
 std::string installationDirectory() { return Desktop::current().world().installation; }
 
+std::string thisProcess() { return "process 4711 of Ann on MET-PC"; }
+
 Result<std::unique_ptr<BatchRun>> startBatchFile(const std::string& path, WindowStyle style,
                                                  StartFolder /*folder*/) {
   Desktop::World& world = Desktop::current().world();

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <optional>
+
 #include "tests/e2e/expected_layout.h"
 #include "tests/e2e/installation.h"
 #include "tests/e2e/program_under_test.h"
@@ -128,6 +130,33 @@ TEST_F(Run, LeavesNothingToTheNextOneWhenItsEngineLivesOn) {
   expectVerdict(summary);
   std::error_code refused;
   EXPECT_TRUE(waitUntil([&] { return fs::remove(installation.engine(), refused); }));
+}
+
+TEST_F(Run, IsOneWindowsInADirectoryUntilThatIsKilled) {
+  const Installation installation("never ends");
+  std::optional<Program> first(std::in_place, installation.path());
+  start(*first);
+  ASSERT_TRUE(waitUntil([&] { return exists("korventally.lst"); }));
+  const Program second(installation.path());
+  walkShortCase(second, study);
+  answer(waitForMessage(second, L"Warning"), IDYES);  // the list file may be overwritten
+  const Form summary = second.summary();
+  summary.click("chkAutoOpen");
+  summary.click("cmdRUN");
+  const Message message = waitForMessage(second, L"Error");
+  EXPECT_TRUE(message.text.starts_with(L"Another KorvenTally window is running a case"));
+  EXPECT_NE(message.text.find(L"It is process "), std::wstring::npos);
+  answer(message, IDOK);
+  EXPECT_TRUE(exists("korventally.inp") && exists("korventally.lock"));
+
+  first.reset();
+  EXPECT_TRUE(waitUntil([&] { return !exists("korventally.lock"); }));
+  writeFile(installation.path() / "behaviour.txt", "");
+  const std::string list = (study.path() / "korventally.lst").string();
+  EXPECT_TRUE(waitUntil([&] { return readFile(list).ends_with("RUN COMPLETED\r\n"); }));
+  summary.click("cmdRUN");
+  expectVerdict(summary);
+  EXPECT_TRUE(ownFilesAreGone());
 }
 
 TEST_F(Run, SaysThatTheEngineIsMissingBeforeAnythingIsWritten) {

@@ -11,7 +11,7 @@ namespace {
 using Operation = Desktop::Operation;
 
 constexpr Operation kOperations[] = {Operation::kDelete, Operation::kWrite, Operation::kOpen,
-                                     Operation::kRead, Operation::kStart};
+                                     Operation::kRead,   Operation::kHold,  Operation::kStart};
 
 const Error kErrors[] = {
     {ErrorKind::kBusy, 32, "The file is used by another process.", ""},
@@ -57,7 +57,8 @@ class FaultyRun : public Study {
 
   /// Every file of the run is gone, or somebody was told that it stays.
   void expectTidy(const Outcome& outcome) const {
-    for (const std::string name : {"korventally.inp", "run_korventally.bat", "open_file.bat"}) {
+    for (const std::string name :
+         {"korventally.inp", "run_korventally.bat", "open_file.bat", "korventally.lock"}) {
       const auto bytes = desktop.fileBytes(kStudy + name);
       if (!bytes || bytes == "old") continue;
       const bool told = std::any_of(

@@ -90,7 +90,9 @@ TEST_F(RunSummary, RunsTheEngineToItsVerdictAndTidiesUp) {
         running.push_back(s.lblRunning.text());
       });
     }
-    desktop.at(45, [&] { EXPECT_EQ(leftovers(), std::vector<std::string>{"korventally.inp"}); });
+    desktop.at(45, [&] {
+      EXPECT_EQ(leftovers(), (std::vector<std::string>{"korventally.inp", "korventally.lock"}));
+    });
     s.txtSILLimit.setText("7.5");
     for (TextBox* box : {&s.txtSpecies, &s.txtAvePeriod, &s.txtNAAQSPSDLimit, &s.txtSILLimit}) {
       box->setText("  " + box->text() + " ");

@@ -160,7 +160,7 @@ TEST_F(OutputFile, NameIsAPlainFileOfTheWorkingDirectoryThatNobodyElseUses) {
         "a|b", "a\tb", "\x7F", "dot.", "dot. ", "   ", ".", ".."}},
       {device,
        {"NUL", "nul.lst", "Aux .txt", "com1", "LPT9.lst", "COM\u00B9.lst", "con", "CONIN$"}},
-      {own, {"KorvenTally.INP", "open_file.bat ", "run_korventally.bat"}},
+      {own, {"KorvenTally.INP", "open_file.bat ", "run_korventally.bat", "korventally.lock"}},
       {kInput, {"g1.CON", "g1.con "}},
   };
   for (const auto& row : rows) {

@@ -73,6 +73,14 @@ Handle openToLookAt(const std::string& path) {
                             FILE_FLAG_BACKUP_SEMANTICS, nullptr));
 }
 
+class Win32HeldFile : public HeldFile {
+ public:
+  explicit Win32HeldFile(Handle file) : file_(std::move(file)) {}
+
+ private:
+  Handle file_;
+};
+
 class Win32FileReader : public FileReader {
  public:
   Win32FileReader(Handle file, std::string path) : file_(std::move(file)), path_(std::move(path)) {}
@@ -162,6 +170,19 @@ Result<std::unique_ptr<FileReader>> openForReading(const std::string& path) {
     return win32::systemError(ERROR_BAD_FILE_TYPE, path);
   }
   return std::unique_ptr<FileReader>(std::make_unique<Win32FileReader>(std::move(file), path));
+}
+
+/// Windows itself deletes the file with its last handle, so that a process that was ended leaves
+/// none behind.
+Result<std::unique_ptr<HeldFile>> holdFile(const std::string& path, const std::string& bytes) {
+  if (!leadsToFiles(path)) return win32::systemError(ERROR_INVALID_NAME, path);
+  Handle file(CreateFileW(nativePath(path).c_str(), GENERIC_WRITE | DELETE, FILE_SHARE_READ,
+                          nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL | FILE_FLAG_DELETE_ON_CLOSE,
+                          nullptr));
+  if (!file) return lastError(path);
+  if (!SetEndOfFile(file.get())) return lastError(path);
+  if (Status written = writeAll(file, bytes, path); !written) return written.error();
+  return std::unique_ptr<HeldFile>(std::make_unique<Win32HeldFile>(std::move(file)));
 }
 
 }  // namespace korventally

@@ -1,6 +1,8 @@
 #include "platform/process.h"
 
 #include <windows.h>
+// It needs the types of the one above.
+#include <lmcons.h>
 
 #include <memory>
 #include <string>
@@ -122,6 +124,19 @@ std::string installationDirectory() {
   path.resize(path.find_last_of(L'\\') == std::wstring::npos ? 0 : path.find_last_of(L'\\'));
   if (path.ends_with(L':')) path += L'\\';
   return win32::fromWide(path);
+}
+
+std::string thisProcess() {
+  std::wstring user(UNLEN + 1, L'\0');
+  auto size = static_cast<DWORD>(user.size());
+  user.resize(GetUserNameW(user.data(), &size) ? size - 1 : 0);
+  std::wstring computer(MAX_COMPUTERNAME_LENGTH + 1, L'\0');
+  size = static_cast<DWORD>(computer.size());
+  computer.resize(GetComputerNameW(computer.data(), &size) ? size : 0);
+  std::wstring text = L"process " + std::to_wstring(GetCurrentProcessId());
+  if (!user.empty()) text += L" of " + user;
+  if (!computer.empty()) text += L" on " + computer;
+  return win32::fromWide(text);
 }
 
 Result<std::unique_ptr<BatchRun>> startBatchFile(const std::string& path, WindowStyle style,

@@ -249,5 +249,24 @@ TEST_F(Files, LetOthersWriteAndDeleteWhileTheyAreRead) {
   EXPECT_EQ(restOf(*second.value()).size(), 16u) << "what is open can be read to its end";
 }
 
+TEST_F(Files, CanBeHeldAsLongAsTheyAreNeeded) {
+  const std::string path = folder + "held.lock";
+  world.append(path, "a much longer text from before");
+  auto held = holdFile(path, "mine");
+  ASSERT_TRUE(held) << held.error().text;
+  EXPECT_EQ(bytesOf(path), "mine");
+  for (const ErrorKind kind : {holdFile(path, "").error().kind, deleteFile(path).error().kind,
+                               writeTextFile(path, {}).error().kind}) {
+    EXPECT_EQ(kind, ErrorKind::kBusy);
+  }
+  EXPECT_EQ(bytesOf(path), "mine");
+  held.value().reset();
+  EXPECT_FALSE(fileExists(path));
+  EXPECT_TRUE(holdFile(path, "again")) << "and gone at once";
+  EXPECT_FALSE(fileExists(path));
+  EXPECT_EQ(holdFile(folder + "none\\file", "").error().kind, ErrorKind::kNotFound);
+  EXPECT_FALSE(holdFile(folder, "") || holdFile(folder + "NUL", ""));
+}
+
 }  // namespace
 }  // namespace korventally::testing
