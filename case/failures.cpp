@@ -18,6 +18,10 @@ namespace {
 constexpr std::uint32_t kPatience = 1500;
 constexpr std::int16_t kPause = 50;
 
+bool isWorthARetry(const Error& error) {
+  return error.kind == ErrorKind::kBusy || error.kind == ErrorKind::kOutOfReach;
+}
+
 }  // namespace
 
 std::string reasonOf(const Error& error) {
@@ -28,7 +32,7 @@ std::string reasonOf(const Error& error) {
 Status retryWhileBusy(const std::function<Status()>& operation, const std::stop_token& stop) {
   const std::uint32_t start = tickCount();
   Status status = operation();
-  while (!status && status.error().kind == ErrorKind::kBusy && tickCount() - start < kPatience) {
+  while (!status && isWorthARetry(status.error()) && tickCount() - start < kPatience) {
     WaitMilliseconds(kPause, stop);
     // Nobody wants the operation any more: it must not happen behind a closed window.
     if (stop.stop_requested()) break;
@@ -42,6 +46,13 @@ Status removeOwnFile(const std::string& path, const std::stop_token& stop) {
   const bool gone = !status && status.error().kind == ErrorKind::kNotFound && !fileExists(path);
   if (gone) return {};
   return status;
+}
+
+Status nothingAt(const std::string& path) {
+  const auto left = openForReading(path);
+  if (left) return Error{ErrorKind::kOther, 0, "A file of this name is still there.", path};
+  if (left.error().kind == ErrorKind::kNotFound) return {};
+  return left.error();
 }
 
 void showFailure(Window* owner, const std::string& what, const Error& error,

@@ -11,11 +11,16 @@ namespace korventally {
 class Window;
 
 /// Tries an operation again for about 1.5 s while another program keeps the file busy, as a virus
-/// scanner does with a new one. Events are handled in between; a request to `stop` ends the trying.
+/// scanner does with a new one, or its folder is out of reach, as on a network that stumbles.
+/// Events are handled in between; a request to `stop` ends the trying.
 Status retryWhileBusy(const std::function<Status()>& operation, const std::stop_token& stop = {});
 
 /// Deletes one of the program's own files, with retries. One that is gone already is as good.
 Status removeOwnFile(const std::string& path, const std::stop_token& stop = {});
+
+/// Success only when it is certain that nothing stands under a name, not even a folder or a hidden
+/// file.
+Status nothingAt(const std::string& path);
 
 /// Windows' reason with its number.
 std::string reasonOf(const Error& error);

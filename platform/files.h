@@ -30,7 +30,8 @@ bool folderListsEntries(const std::string& path);
 /// Whether both paths lead to one existing file, however they spell it.
 bool sameFile(const std::string& one, const std::string& other);
 
-/// Deletes a file. Deleting one that is not there fails with kNotFound.
+/// Deletes a file. Deleting one that is not there fails with kNotFound, or kOutOfReach if its
+/// folder is missing too.
 Status deleteFile(const std::string& path);
 
 /// Creates or replaces a text file: the lines in the ANSI code page, each ended by CR LF. Succeeds

@@ -9,9 +9,10 @@ namespace korventally {
 
 /// What a caller may want to tell apart; everything else is kOther.
 enum class ErrorKind {
-  kNotFound,
-  kBusy,     ///< another program holds the file, or has it marked for deletion: worth a retry
-  kNotAnsi,  ///< text that Windows' ANSI code page lacks
+  kNotFound,    ///< no such file in a folder that is there
+  kOutOfReach,  ///< the folder is missing, perhaps for now: its drive or network may come back
+  kBusy,        ///< another program holds the file, or has it marked for deletion: worth a retry
+  kNotAnsi,     ///< text that Windows' ANSI code page lacks
   kOther,
 };
 

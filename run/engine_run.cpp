@@ -16,6 +16,7 @@
 #include "platform/result.h"
 #include "run/batch_file.h"
 #include "run/control_file.h"
+#include "run/leftovers.h"
 #include "run/verdict.h"
 
 namespace korventally {
@@ -28,11 +29,15 @@ constexpr std::int16_t kListFilePause = 50;
 
 constexpr const char* kLeftoverAdvice =
     "Please delete the file when no other program uses it any more.";
+constexpr const char* kComesBackAdvice =
+    "It is deleted when the working directory can be reached again, as long as this window or the "
+    "wizard is open. Otherwise please delete it yourself.";
 
 }  // namespace
 
 EngineRun::EngineRun(Window& window, Label& lblRunning)
     : case_(basModule::analysisCase),
+      workDir_(case_.WorkDir),
       listFile_(case_.WorkDir + case_.ListFile),
       controlFile_(controlFilePath(case_)),
       batchFile_(batchFilePath(case_)),
@@ -83,16 +88,21 @@ bool EngineRun::awaitListFile() {
   }
 }
 
-/// Why a wait for the list file may be in vain; empty while there is hope.
+/// Why a wait for the list file may be in vain; empty while there is hope. That no file is seen
+/// says something about the engine only where it is certain that there is none: the directory may
+/// be on a network drive that was cut off and comes back.
 std::string EngineRun::doubtWithoutListFile(bool gone) const {
   const std::uint32_t now = tickCount();
-  if (gone && patience_.verdictOverdue(now)) {
-    return "The engine has ended without writing its list file:\n" + listFile_;
+  const bool overdue = patience_.listFileOverdue(now);
+  if (!overdue && !(gone && patience_.verdictOverdue(now))) return {};
+  const Status missing = nothingAt(listFile_);
+  if (!missing && !overdue) return {};
+  if (!missing && missing.error().kind == ErrorKind::kOutOfReach) {
+    return "The list file is out of reach:\n" + listFile_ + "\n\n" + reasonOf(missing.error());
   }
-  if (!gone && patience_.listFileOverdue(now)) {
-    return "The engine has not written its list file yet:\n" + listFile_;
-  }
-  return {};
+  return (gone ? "The engine has ended without writing its list file:\n"
+               : "The engine has not written its list file yet:\n") +
+         listFile_;
 }
 
 /// The same after a reading that gave no verdict. A file that could not be read has not been
@@ -127,11 +137,16 @@ void EngineRun::finish() {
   releaseBatchFile();
   for (const std::string& path : std::exchange(ownFiles_, {})) {
     const Status removed = removeOwnFile(path);
-    if (removed) continue;
-    showFailure(&window_, "A file of the run could not be deleted:", removed.error(),
-                kLeftoverAdvice);
+    if (!removed) leaveBehind(path, removed.error());
   }
   claim_.reset();
+}
+
+void EngineRun::leaveBehind(const std::string& path, const Error& error) {
+  const bool mayComeBack = error.kind == ErrorKind::kOutOfReach;
+  if (mayComeBack) deleteWhenBack(workDir_, path);
+  showFailure(&window_, "A file of the run could not be deleted:", error,
+              mayComeBack ? kComesBackAdvice : kLeftoverAdvice);
 }
 
 /// An engine may live on after its verdict, and its interpreter with it. That would go on reading

@@ -56,6 +56,7 @@ class EngineRun {
   bool checkEngine();
   bool checkCodePage();
   bool claimWorkDir();
+  void forgetLeftovers() const;
   bool sayWhoRuns();
   bool removeOldBatchFile();
   bool removeOldListFile();
@@ -71,11 +72,13 @@ class EngineRun {
   std::string doubtAfter(const Reading& read, bool gone);
   bool keepWaitingOrAsk(const std::string& doubt);
   void releaseBatchFile();
+  void leaveBehind(const std::string& path, const Error& error);
 
   bool processesGone() const { return !processes_->running(); }
   bool abandoned() const { return stop_.stop_requested(); }
 
   const AnalysisCase& case_;  ///< may change before the run has unwound, unlike the paths below
+  const std::string workDir_;
   const std::string listFile_;
   const std::string controlFile_;
   const std::string batchFile_;

@@ -12,6 +12,7 @@
 #include "run/control_file.h"
 #include "run/engine_run.h"
 #include "run/folder_claim.h"
+#include "run/leftovers.h"
 
 namespace korventally {
 namespace {
@@ -21,13 +22,6 @@ constexpr std::int16_t kBeforeBatchFile = 50;
 constexpr const char* kFolderAdvice =
     "Please check that the working directory can be written to and that no other program has the "
     "file open, then press RUN again.";
-
-Status nothingAt(const std::string& path) {
-  const auto left = openForReading(path);
-  if (left) return Error{ErrorKind::kOther, 0, "A file of this name is still there.", path};
-  if (left.error().kind == ErrorKind::kNotFound) return {};
-  return left.error();
-}
 
 }  // namespace
 
@@ -74,10 +68,15 @@ bool EngineRun::claimWorkDir() {
         return {};
       },
       stop_.get_token());
+  if (claimed) forgetLeftovers();
   if (claimed || abandoned()) return !abandoned();
   if (claimed.error().kind == ErrorKind::kBusy) return sayWhoRuns();
   return fail("The working directory could not be reserved for this run:", claimed.error(),
               kFolderAdvice);
+}
+
+void EngineRun::forgetLeftovers() const {
+  for (const std::string& path : {controlFile_, batchFile_}) forgetLeftover(path);
 }
 
 bool EngineRun::sayWhoRuns() {

@@ -38,7 +38,9 @@ std::vector<std::string> linesOf(const std::string& bytes) {
 }  // namespace
 
 void BatchProcess::start() {
-  if (const auto bytes = Desktop::current().fileBytes(path_)) {
+  if (!world().files.reaches(path_)) {
+    // The interpreter complains in its own window and ends.
+  } else if (const auto bytes = Desktop::current().fileBytes(path_)) {
     lines_ = linesOf(fromAnsi(*bytes));
   } else {
     Desktop::onFailure("a batch file was started that is not there: " + path_);

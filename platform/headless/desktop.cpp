@@ -108,6 +108,10 @@ void Desktop::lockFile(const std::string& path, std::uint32_t milliseconds) {
   node->lockedUntil = world_->clock.time() + milliseconds;
 }
 
+void Desktop::cutOff(const std::string& folder) { world_->files.cutOff(fullPath(folder)); }
+
+void Desktop::reconnect() { world_->files.cutOff(""); }
+
 void Desktop::setInstallationDirectory(std::string path) {
   makeFolder(path);
   world_->installation = std::move(path);

@@ -42,6 +42,10 @@ class Desktop {
   std::vector<std::string> list(const std::string& folder) const;
   /// Another program holds the file open and shares nothing, until `milliseconds` have passed.
   void lockFile(const std::string& path, std::uint32_t milliseconds);
+  /// The network loses the folder with all that is in it, or has it again. Its server closes what
+  /// this program has open there; other programs go on with the files where they are.
+  void cutOff(const std::string& folder);
+  void reconnect();
   void setInstallationDirectory(std::string path);
 
   // Faults: the n-th call (from 1) of an operation fails with the error, and with `fromThenOn`

@@ -36,6 +36,16 @@ Node& FileSystem::put(const std::string& path, std::string bytes) {
 
 void FileSystem::remove(const std::string& path) { nodes_.erase(foldCase(path)); }
 
+void FileSystem::cutOff(const std::string& folder) {
+  lost_ = foldCase(folder);
+  std::erase_if(
+      nodes_, [this](const auto& node) { return node.second.held && !reaches(node.second.path); });
+}
+
+bool FileSystem::reaches(const std::string& path) const {
+  return lost_.empty() || !(foldCase(path) + '\\').starts_with(lost_ + '\\');
+}
+
 std::vector<const Node*> FileSystem::entries(const std::string& folder) const {
   std::vector<const Node*> found;
   const std::string start = foldCase(folder) + '\\';

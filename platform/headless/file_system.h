@@ -31,12 +31,16 @@ class FileSystem {
   /// Creates the file with every folder above it, or replaces the bytes of the one that is there.
   Node& put(const std::string& path, std::string bytes);
   void remove(const std::string& path);
+  /// From now on this folder alone is out of the program's reach; none with the empty text.
+  void cutOff(const std::string& folder);
+  bool reaches(const std::string& path) const;
   /// What stands in the folder, by name.
   std::vector<const Node*> entries(const std::string& folder) const;
 
  private:
   /// By path in folded case.
   std::map<std::string, Node> nodes_;
+  std::string lost_;  ///< the folder that is cut off, in folded case
 };
 
 }  // namespace korventally::headless

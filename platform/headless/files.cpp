@@ -29,13 +29,20 @@ constexpr long kFileNotFound = 2;
 constexpr long kPathNotFound = 3;
 constexpr long kAccessDenied = 5;
 constexpr long kSharingViolation = 32;
+constexpr long kNoNetworkPath = 53;
+constexpr long kNetworkNameGone = 64;
 constexpr long kDiskFull = 112;
 constexpr long kInvalidName = 123;
 
 Desktop::World& world() { return Desktop::current().world(); }
 
+const Node* nodeInReach(const std::string& path) {
+  return world().files.reaches(path) ? world().files.find(path) : nullptr;
+}
+
 /// The file of that name, fit to be opened or deleted, or why there is none.
 Result<Node*> usableFile(const FullPath& path) {
+  if (!world().files.reaches(path.text)) return systemError(kNoNetworkPath, path.text);
   Node* node = world().files.find(path.text);
   if (node == nullptr) {
     const bool folderThere = world().files.find(parentOf(path.text)) != nullptr;
@@ -79,13 +86,18 @@ Result<std::string> bytesOf(const std::vector<std::string>& lines) {
 
 class Holder : public HeldFile {
  public:
-  explicit Holder(std::string path) : path_(std::move(path)) {}
-  ~Holder() override { world().files.remove(path_); }
+  explicit Holder(const Node& node) : path_(node.path), bytes_(node.bytes) {}
+  /// Where the server has closed it, another one may stand under its name.
+  ~Holder() override {
+    const Node* node = nodeInReach(path_);
+    if (node != nullptr && node->bytes == bytes_) world().files.remove(path_);
+  }
   Holder(const Holder&) = delete;
   Holder& operator=(const Holder&) = delete;
 
  private:
   const std::string path_;
+  const std::shared_ptr<const std::string> bytes_;
 };
 
 class Reader : public FileReader {
@@ -94,6 +106,7 @@ class Reader : public FileReader {
 
   Result<std::size_t> read(std::span<char> buffer) override {
     if (auto error = world().faults.call(Operation::kRead, path_)) return *error;
+    if (!world().files.reaches(path_)) return systemError(kNetworkNameGone, path_);
     if (at_ >= bytes_->size()) return std::size_t{0};
     const std::size_t count = bytes_->copy(buffer.data(), buffer.size(), at_);
     at_ += count;
@@ -119,7 +132,7 @@ std::string absolutePath(const std::string& path) {
 bool fileExists(const std::string& path) {
   const auto full = resolve(path);
   if (!full || full.value().namesFolder) return false;
-  const Node* node = world().files.find(full.value().text);
+  const Node* node = nodeInReach(full.value().text);
   return node != nullptr && !node->isFolder && node->attribute != Desktop::Attribute::kHidden &&
          node->attribute != Desktop::Attribute::kSystem;
 }
@@ -127,7 +140,7 @@ bool fileExists(const std::string& path) {
 bool folderListsEntries(const std::string& path) {
   const auto full = resolve(path);
   if (!full || !full.value().namesFolder) return false;
-  const Node* node = world().files.find(full.value().text);
+  const Node* node = nodeInReach(full.value().text);
   if (node == nullptr || !node->isFolder) return false;
   const bool isRoot = parentOf(node->path) == node->path;
   return !isRoot || !world().files.entries(node->path).empty();
@@ -136,7 +149,7 @@ bool folderListsEntries(const std::string& path) {
 bool sameFile(const std::string& one, const std::string& other) {
   const auto node = [](const std::string& path) -> const Node* {
     const auto full = resolve(path);
-    return full ? world().files.find(full.value().text) : nullptr;
+    return full ? nodeInReach(full.value().text) : nullptr;
   };
   return node(one) != nullptr && node(one) == node(other);
 }
@@ -189,8 +202,9 @@ Result<std::unique_ptr<HeldFile>> holdFile(const std::string& path, const std::s
   if (!full) return full.error();
   if (auto error = world().faults.call(Operation::kHold, full.value().text)) return *error;
   if (auto error = obstacle(full.value())) return *error;
-  world().files.put(full.value().text, bytes).held = true;
-  return std::unique_ptr<HeldFile>(std::make_unique<Holder>(full.value().text));
+  Node& node = world().files.put(full.value().text, bytes);
+  node.held = true;
+  return std::unique_ptr<HeldFile>(std::make_unique<Holder>(node));
 }
 
 }  // namespace korventally

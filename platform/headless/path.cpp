@@ -88,10 +88,12 @@ Error systemError(long code, const std::string& path) {
       {5, "Access is denied."},
       {32, "The process cannot access the file because it is being used by another process."},
       {53, "The network path was not found."},
+      {64, "The specified network name is no longer available."},
       {112, "There is not enough space on the disk."},
       {123, "The filename, directory name, or volume label syntax is incorrect."}};
   ErrorKind kind = ErrorKind::kOther;
-  if (code == 2 || code == 3) kind = ErrorKind::kNotFound;
+  if (code == 2) kind = ErrorKind::kNotFound;
+  if (code == 3 || code == 53 || code == 64) kind = ErrorKind::kOutOfReach;
   if (code == 32) kind = ErrorKind::kBusy;
   return {kind, code, kSentences.at(code), path};
 }

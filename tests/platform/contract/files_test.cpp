@@ -164,7 +164,7 @@ TEST_F(Files, AreDeletedOrSayWhyNot) {
     ErrorKind kind;
     long code;
   } table[] = {{"file", ErrorKind::kNotFound, 2},
-               {"none\\file", ErrorKind::kNotFound, 3},
+               {"none\\file", ErrorKind::kOutOfReach, 3},
                {"sub", ErrorKind::kOther, 5},
                {"read-only", ErrorKind::kOther, 5},
                {"held", ErrorKind::kBusy, 32}};
@@ -193,7 +193,7 @@ TEST_F(Files, CannotBeWrittenEverywhere) {
   const struct {
     const char* name;
     ErrorKind kind;
-  } table[] = {{"none\\file", ErrorKind::kNotFound},
+  } table[] = {{"none\\file", ErrorKind::kOutOfReach},
                {"sub", ErrorKind::kOther},
                {"wild*card", ErrorKind::kOther},
                {"held", ErrorKind::kBusy}};
@@ -222,10 +222,11 @@ TEST_F(Files, ThatAreReadOnlyAreNotReplaced) {
 
 TEST_F(Files, CannotBeReadIfThereAreNone) {
   world.makeFolder(folder + "sub");
-  for (const char* name : {"missing", "none\\file"}) {
+  for (const auto& [name, kind] : {std::pair("missing", ErrorKind::kNotFound),
+                                   std::pair("none\\file", ErrorKind::kOutOfReach)}) {
     const auto opened = openForReading(folder + name);
     ASSERT_FALSE(opened) << name;
-    EXPECT_EQ(opened.error().kind, ErrorKind::kNotFound) << name;
+    EXPECT_EQ(opened.error().kind, kind) << name;
   }
   EXPECT_FALSE(openForReading(folder + "sub"));
 }
@@ -264,7 +265,7 @@ TEST_F(Files, CanBeHeldAsLongAsTheyAreNeeded) {
   EXPECT_FALSE(fileExists(path));
   EXPECT_TRUE(holdFile(path, "again")) << "and gone at once";
   EXPECT_FALSE(fileExists(path));
-  EXPECT_EQ(holdFile(folder + "none\\file", "").error().kind, ErrorKind::kNotFound);
+  EXPECT_EQ(holdFile(folder + "none\\file", "").error().kind, ErrorKind::kOutOfReach);
   EXPECT_FALSE(holdFile(folder, "") || holdFile(folder + "NUL", ""));
 }
 
