@@ -50,7 +50,8 @@ Status removeOwnFile(const std::string& path, const std::stop_token& stop) {
 
 Status nothingAt(const std::string& path) {
   const auto left = openForReading(path);
-  if (left) return Error{ErrorKind::kOther, 0, "A file of this name is still there.", path};
+  // One that was deleted can stand there until everybody has closed it.
+  if (left) return Error{ErrorKind::kBusy, 0, "A file of this name is still there.", path};
   if (left.error().kind == ErrorKind::kNotFound) return {};
   return left.error();
 }

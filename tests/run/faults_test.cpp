@@ -127,6 +127,16 @@ TEST(Faults, NothingMayStandUnderTheNameOfTheListFile) {
   }
 }
 
+TEST(Faults, WhatStandsThereForAMomentOnlyIsWaitedFor) {
+  FaultyRun run;
+  const std::string list = kStudy + "korventally.lst";
+  run.desktop.putFile(list, "RUN FAILED", Desktop::Attribute::kHidden);
+  run.desktop.at(1000, [&] { run.desktop.removeFile(list); });
+  const FaultyRun::Outcome outcome = run.runWith({});
+  EXPECT_EQ(outcome.status, "RUN COMPLETED");
+  EXPECT_TRUE(outcome.messages.empty());
+}
+
 /// The directory goes at some moment of the run and comes back later, or not while it lasts. The
 /// engine goes on where the files are.
 TEST(Faults, AWorkingDirectoryThatGoesAndComesBackCostsNoVerdict) {
