@@ -38,6 +38,15 @@ void sleepUntilTold(const fs::path& folder) {
   }
 }
 
+/// Until the wizard has deleted the control file and a next run has written it again and the batch
+/// file 50 ms later, so that this engine and its interpreter end just then; or for some seconds.
+void awaitNextRun(const fs::path& controlFile) {
+  for (const bool there : {true, false}) {
+    for (int looks = 0; looks < 800 && fs::exists(controlFile) == there; ++looks) Sleep(5);
+  }
+  Sleep(80);
+}
+
 }  // namespace
 
 int wmain(int count, wchar_t** arguments) {
@@ -66,6 +75,6 @@ int wmain(int count, wchar_t** arguments) {
   if (behaviour == "takes its time") Sleep(3000);
   list << "RUN COMPLETED\n";
   list.close();
-  if (behaviour == "lingers") Sleep(4000);
+  if (behaviour == "lingers") awaitNextRun(arguments[1]);
   return 0;
 }
