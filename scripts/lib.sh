@@ -25,7 +25,7 @@ stage() { # what happens, log name, command...
   local what=$1 log=$logs/$2.log began=$SECONDS
   shift 2
   printf '%-62s ' "$what ..."
-  if "$@" >"$log" 2>&1; then
+  if ("$@") >"$log" 2>&1; then
     printf '%4d s\n' $((SECONDS - began))
   else
     printf 'FAILED\n'
