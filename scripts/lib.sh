@@ -13,6 +13,7 @@ build_packages=(cmake ninja-build g++ g++-mingw-w64-x86-64-posix googletest)
 # Wine draws buttons and arrows with fonts that its own package only recommends.
 desktop_packages=(wine wine64 fonts-wine fonts-liberation xvfb imagemagick)
 browser_packages=(chromium chromium-driver python3-selenium)
+guide_packages=(pandoc)
 
 fail() {
   printf '%s\n' "$*" >&2
@@ -69,6 +70,21 @@ build_program() {
     cross_build KorvenTallyWizard korventally
   stage "Putting them into dist/KorvenTally/" install \
     cmake --install "$build/windows" --prefix "$installation" --strip
+}
+
+# The pages that the guide leads to, all in one folder: links from one to another lose the folders
+# that the sources are in.
+render_guide() { # folder
+  local page name
+  rm -rf "$1"
+  mkdir -p "$1"
+  cp -r docs/guide/images "$1/images"
+  for page in docs/guide/*.md docs/engine.md docs/import.md CHANGELOG.md; do
+    name=${page##*/}
+    pandoc -f gfm-smart -t html5 --wrap=none --no-highlight --template resources/guide/template.html \
+      --metadata "pagetitle=$(sed -n '1s/^# //p' "$page")" "$page" |
+      sed -E 's|href="([^":]*/)?([A-Za-z-]+)\.md|href="\2.html|g' >"$1/${name%.md}.html" || return
+  done
 }
 
 # A folder as a program under Wine names it.
@@ -185,8 +201,8 @@ take_picture() { # folder, name, geometry
 
 # Has the wizard of such a copy driven by mouse and keyboard. The driver says what it does, asks for
 # pictures and waits for them. The result is the driver's.
-drive_copy() { # folder, what to do: demo, gallery or model
-  local line name geometry
+drive_copy() { # folder, what to do: demo, gallery or model; how the wizard names the folder
+  local line name geometry drives=${3:-Z:$1}
   while IFS= read -r line; do
     line=${line%$'\r'}
     read -r _ name geometry <<<"$line"
@@ -197,7 +213,7 @@ drive_copy() { # folder, what to do: demo, gallery or model
     esac
   done < <(
     # The pipe outlives the driver, because Wine's own processes hold it too.
-    timeout 180 wine "$build/windows/driver/demo_driver.exe" "$2" "Z:$1" \
+    timeout 180 wine "$build/windows/driver/demo_driver.exe" "$2" "$drives" \
       2>"$logs/demo-driver.log" && ended=0 || ended=$?
     echo "driver-ended $ended"
   )
