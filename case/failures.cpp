@@ -34,8 +34,9 @@ Status retryWhileBusy(const std::function<Status()>& operation, const std::stop_
   Status status = operation();
   while (!status && isWorthARetry(status.error()) && tickCount() - start < kPatience) {
     WaitMilliseconds(kPause, stop);
-    // Nobody wants the operation any more: it must not happen behind a closed window.
-    if (stop.stop_requested()) break;
+    // Nobody wants the operation any more: it must not happen behind a closed window. And no time
+    // passes between two tries when there is none left.
+    if (stop.stop_requested() || timeIsUp()) break;
     status = operation();
   }
   return status;
