@@ -130,7 +130,8 @@ void frmKORVENTALLY::switchSteps(WizardStep& from, WizardStep& to, WizardStep::W
 }
 
 void frmKORVENTALLY::cmdRUN_Click() {
-  if (!CaptureCase()) return;
+  // The window may have gone while it asked.
+  if (!CaptureCase() || !isOpen()) return;
   DeriveLimits(basModule::analysisCase);
   frmRunSummary().show(this);
 }
