@@ -57,8 +57,8 @@ class HeldFile {
  public:
   virtual ~HeldFile() = default;
 };
-/// Makes a file of these bytes such a file, also one that is there already. kBusy while somebody
-/// else has it.
+/// Creates such a file of these bytes. kBusy while a file of that name is there: whose it is must
+/// be seen before it may go.
 Result<std::unique_ptr<HeldFile>> holdFile(const std::string& path, const std::string& bytes);
 
 /// Text in Windows' ANSI code page as UTF-8, and back; an error (kNotAnsi) when a character is

@@ -57,7 +57,7 @@ class EngineRun {
   bool checkCodePage();
   bool claimWorkDir();
   void forgetLeftovers() const;
-  bool sayWhoRuns();
+  bool sayWhoRuns(const std::string& holder);
   bool removeOldBatchFile();
   bool removeOldListFile();
   bool writeControlFile();

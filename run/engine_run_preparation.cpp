@@ -70,7 +70,8 @@ bool EngineRun::claimWorkDir() {
       stop_.get_token());
   if (claimed) forgetLeftovers();
   if (claimed || abandoned()) return !abandoned();
-  if (claimed.error().kind == ErrorKind::kBusy) return sayWhoRuns();
+  const std::string holder = holderOfClaim(case_.WorkDir);
+  if (claimed.error().kind == ErrorKind::kBusy && !holder.empty()) return sayWhoRuns(holder);
   return fail("The working directory could not be reserved for this run:", claimed.error(),
               kFolderAdvice);
 }
@@ -79,12 +80,11 @@ void EngineRun::forgetLeftovers() const {
   for (const std::string& path : {controlFile_, batchFile_}) forgetLeftover(path);
 }
 
-bool EngineRun::sayWhoRuns() {
-  const std::string holder = holderOfClaim(case_.WorkDir);
+bool EngineRun::sayWhoRuns(const std::string& holder) {
   messageBox(&window_,
              "Another KorvenTally window is running a case in this working directory:\n" +
-                 case_.WorkDir + "\n\n" + (holder.empty() ? "" : "It is " + holder + ".\n\n") +
-                 "Nothing of that run was touched. Please wait until it has ended, or choose "
+                 case_.WorkDir + "\n\nIt is " + holder +
+                 ".\n\nNothing of that run was touched. Please wait until it has ended, or choose "
                  "another working directory, then press RUN again.",
              kErrorTitle);
   return false;

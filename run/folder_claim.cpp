@@ -30,10 +30,15 @@ Result<std::string> beginningOf(const std::string& path) {
 Result<std::unique_ptr<HeldFile>> claimFolder(const std::string& workDir) {
   const std::string path = workDir + kClaimFile;
   const auto there = beginningOf(path);
+  if (!there && there.error().kind != ErrorKind::kNotFound) return there.error();
   // A power cut can leave a claim behind that nobody has, even one without its text.
   if (there && !there.value().empty() && !there.value().starts_with(kFirstLine)) {
     return Error{ErrorKind::kOther, 0, "There is a file of this name that is not KorvenTally's.",
                  path};
+  }
+  // Not while somebody has it.
+  if (there) {
+    if (Status deleted = deleteFile(path); !deleted) return deleted.error();
   }
   return holdFile(path, std::string(kFirstLine) + thisProcess() + "\r\n");
 }

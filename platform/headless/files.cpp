@@ -30,6 +30,7 @@ constexpr long kPathNotFound = 3;
 constexpr long kAccessDenied = 5;
 constexpr long kSharingViolation = 32;
 constexpr long kNoNetworkPath = 53;
+constexpr long kFileExists = 80;
 constexpr long kNetworkNameGone = 64;
 constexpr long kDiskFull = 112;
 constexpr long kInvalidName = 123;
@@ -202,6 +203,9 @@ Result<std::unique_ptr<HeldFile>> holdFile(const std::string& path, const std::s
   if (!full) return full.error();
   if (auto error = world().faults.call(Operation::kHold, full.value().text)) return *error;
   if (auto error = obstacle(full.value())) return *error;
+  if (world().files.find(full.value().text) != nullptr) {
+    return systemError(kFileExists, full.value().text);
+  }
   Node& node = world().files.put(full.value().text, bytes);
   node.held = true;
   return std::unique_ptr<HeldFile>(std::make_unique<Holder>(node));

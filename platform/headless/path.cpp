@@ -89,12 +89,13 @@ Error systemError(long code, const std::string& path) {
       {32, "The process cannot access the file because it is being used by another process."},
       {53, "The network path was not found."},
       {64, "The specified network name is no longer available."},
+      {80, "The file exists."},
       {112, "There is not enough space on the disk."},
       {123, "The filename, directory name, or volume label syntax is incorrect."}};
   ErrorKind kind = ErrorKind::kOther;
   if (code == 2) kind = ErrorKind::kNotFound;
   if (code == 3 || code == 53 || code == 64) kind = ErrorKind::kOutOfReach;
-  if (code == 32) kind = ErrorKind::kBusy;
+  if (code == 32 || code == 80) kind = ErrorKind::kBusy;
   return {kind, code, kSentences.at(code), path};
 }
 

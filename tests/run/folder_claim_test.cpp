@@ -1,7 +1,16 @@
 #include "run/folder_claim.h"
 
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
 #include "platform/process.h"
+#include "platform/result.h"
+#include "platform/window.h"
+#include "run/frmRunSummary.h"
 #include "tests/study.h"
+#include "tests/user.h"
 
 namespace korventally::testing {
 namespace {
@@ -73,6 +82,12 @@ TEST_F(FolderClaim, IsTakenOverFromNobodyButNotFromAnotherProgram) {
         "press RUN again.");
     click(s.cmdRUN);
   });
+  desktop.failCall(Desktop::Operation::kOpen, desktop.calls(Desktop::Operation::kOpen) + 1,
+                   {ErrorKind::kNotFound, 2, "The file was not found.", ""});
+  EXPECT_EQ(claimFolder(kStudy).error().kind, ErrorKind::kBusy) << "one that came after the look";
+  desktop.failCall(Desktop::Operation::kRead, desktop.calls(Desktop::Operation::kRead) + 1,
+                   {ErrorKind::kOther, 5, "Access is denied.", ""});
+  EXPECT_EQ(claimFolder(kStudy).error().code, 5) << "one that cannot be read now";
   EXPECT_EQ(desktop.fileBytes(lock), "my notes");
   EXPECT_EQ(desktop.fileBytes(list), "old");
 }

@@ -41,6 +41,7 @@ ErrorKind kindOf(DWORD code, const std::string& path) {
     case ERROR_HOST_UNREACHABLE:
     case ERROR_CONNECTION_ABORTED:
       return ErrorKind::kOutOfReach;
+    case ERROR_FILE_EXISTS:
     case ERROR_SHARING_VIOLATION:
     case ERROR_LOCK_VIOLATION:
     case ERROR_USER_MAPPED_FILE:

@@ -177,10 +177,9 @@ Result<std::unique_ptr<FileReader>> openForReading(const std::string& path) {
 Result<std::unique_ptr<HeldFile>> holdFile(const std::string& path, const std::string& bytes) {
   if (!leadsToFiles(path)) return win32::systemError(ERROR_INVALID_NAME, path);
   Handle file(CreateFileW(nativePath(path).c_str(), GENERIC_WRITE | DELETE, FILE_SHARE_READ,
-                          nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL | FILE_FLAG_DELETE_ON_CLOSE,
+                          nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL | FILE_FLAG_DELETE_ON_CLOSE,
                           nullptr));
   if (!file) return lastError(path);
-  if (!SetEndOfFile(file.get())) return lastError(path);
   if (Status written = writeAll(file, bytes, path); !written) return written.error();
   return std::unique_ptr<HeldFile>(std::make_unique<Win32HeldFile>(std::move(file)));
 }

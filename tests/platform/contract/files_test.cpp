@@ -252,7 +252,10 @@ TEST_F(Files, LetOthersWriteAndDeleteWhileTheyAreRead) {
 
 TEST_F(Files, CanBeHeldAsLongAsTheyAreNeeded) {
   const std::string path = folder + "held.lock";
-  world.append(path, "a much longer text from before");
+  world.append(path, "the user's");
+  EXPECT_EQ(holdFile(path, "mine").error().kind, ErrorKind::kBusy);
+  EXPECT_EQ(bytesOf(path), "the user's");
+  ASSERT_TRUE(deleteFile(path));
   auto held = holdFile(path, "mine");
   ASSERT_TRUE(held) << held.error().text;
   EXPECT_EQ(bytesOf(path), "mine");
