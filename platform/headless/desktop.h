@@ -49,8 +49,8 @@ class Desktop {
   void setInstallationDirectory(std::string path);
 
   // Faults: the n-th call (from 1) of an operation fails with the error, and with `fromThenOn`
-  // every later call too.
-  enum class Operation { kDelete, kWrite, kOpen, kRead, kHold, kStart };
+  // every later call too. A look whether something is there sees nothing when it fails.
+  enum class Operation { kDelete, kWrite, kOpen, kRead, kHold, kStart, kLook };
   void failCall(Operation operation, int nth, Error error, bool fromThenOn = false);
   int calls(Operation operation) const;
   /// What another program does just before each call of an operation.

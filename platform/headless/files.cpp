@@ -41,6 +41,11 @@ const Node* nodeInReach(const std::string& path) {
   return world().files.reaches(path) ? world().files.find(path) : nullptr;
 }
 
+/// The same as a call that can fail.
+const Node* lookAt(const std::string& path) {
+  return world().faults.call(Operation::kLook, path) ? nullptr : nodeInReach(path);
+}
+
 /// The file of that name, fit to be opened or deleted, or why there is none.
 Result<Node*> usableFile(const FullPath& path) {
   if (!world().files.reaches(path.text)) return systemError(kNoNetworkPath, path.text);
@@ -133,7 +138,7 @@ std::string absolutePath(const std::string& path) {
 bool fileExists(const std::string& path) {
   const auto full = resolve(path);
   if (!full || full.value().namesFolder) return false;
-  const Node* node = nodeInReach(full.value().text);
+  const Node* node = lookAt(full.value().text);
   return node != nullptr && !node->isFolder && node->attribute != Desktop::Attribute::kHidden &&
          node->attribute != Desktop::Attribute::kSystem;
 }
@@ -141,7 +146,7 @@ bool fileExists(const std::string& path) {
 bool folderListsEntries(const std::string& path) {
   const auto full = resolve(path);
   if (!full || !full.value().namesFolder) return false;
-  const Node* node = nodeInReach(full.value().text);
+  const Node* node = lookAt(full.value().text);
   if (node == nullptr || !node->isFolder) return false;
   const bool isRoot = parentOf(node->path) == node->path;
   return !isRoot || !world().files.entries(node->path).empty();
@@ -150,9 +155,10 @@ bool folderListsEntries(const std::string& path) {
 bool sameFile(const std::string& one, const std::string& other) {
   const auto node = [](const std::string& path) -> const Node* {
     const auto full = resolve(path);
-    return full ? nodeInReach(full.value().text) : nullptr;
+    return full ? lookAt(full.value().text) : nullptr;
   };
-  return node(one) != nullptr && node(one) == node(other);
+  const Node* const first = node(one);
+  return first != nullptr && first == node(other);
 }
 
 Status deleteFile(const std::string& path) {

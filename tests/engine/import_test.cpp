@@ -292,7 +292,7 @@ TEST(Import, TellsHowFarItIs) {
   const ModelText one("century/all.pst");
   ModelText many = one;
   many.rows.clear();
-  char date[16];
+  char date[32];
   for (int hour = 0; hour < 700; ++hour) {
     std::snprintf(date, sizeof date, "1001%02d%02d", hour / 24 + 1, hour % 24 + 1);
     for (int copy = 0; copy < 9; ++copy) many.rows.push_back(one.rows[copy]);

@@ -1,34 +1,27 @@
-#include <algorithm>
-#include <map>
-#include <random>
+#include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/dialogs.h"
+#include "platform/files.h"
+#include "platform/headless/desktop.h"
 #include "platform/later.h"
 #include "run/folder_claim.h"
+#include "run/frmRunSummary.h"
 #include "tests/study.h"
+#include "tests/user.h"
 
 namespace korventally::testing {
 namespace {
 
 using Operation = Desktop::Operation;
 
-constexpr Operation kOperations[] = {Operation::kDelete, Operation::kWrite, Operation::kOpen,
-                                     Operation::kRead,   Operation::kHold,  Operation::kStart};
-
-const Error kErrors[] = {
-    {ErrorKind::kBusy, 32, "The file is used by another process.", ""},
-    {ErrorKind::kOther, 5, "Access is denied.", ""},
-    {ErrorKind::kOther, 112, "There is not enough space on the disk.", ""},
-    {ErrorKind::kNotFound, 2, "The system cannot find the file specified.", ""},
-};
-
-struct Fault {
-  Operation operation;
-  int nth;
-  Error error;
-  bool fromThenOn;
-};
-
-/// Runs a case whose platform fails at the given places, and checks what must hold all the same.
+/// Runs a case in a working directory that is not as it should be.
 class FaultyRun : public Study {
  public:
   /// One run, and what was said meanwhile.
@@ -38,10 +31,7 @@ class FaultyRun : public Study {
     bool usable = false;
   };
 
-  Outcome runWith(const std::vector<Fault>& faults) {
-    for (const Fault& fault : faults) {
-      desktop.failCall(fault.operation, fault.nth, fault.error, fault.fromThenOn);
-    }
+  Outcome run() {
     Outcome outcome;
     desktop.answerMessages([&](const std::string& text, Buttons buttons) {
       outcome.messages.push_back(text);
@@ -92,34 +82,13 @@ class FaultyRun : public Study {
   }
 };
 
-std::map<Operation, int> callsWithoutFaults() {
-  FaultyRun run;
-  run.leaveAnOldRun();
-  run.expectInvariants(run.runWith({}));
-  std::map<Operation, int> calls;
-  for (const Operation operation : kOperations) calls[operation] = run.desktop.calls(operation);
-  return calls;
-}
-
-void checkRunWith(const std::vector<Fault>& faults) {
-  ::testing::Message trace;
-  for (const Fault& fault : faults) {
-    trace << "operation " << static_cast<int>(fault.operation) << ", call " << fault.nth
-          << ", error " << fault.error.code << (fault.fromThenOn ? " from then on; " : " once; ");
-  }
-  SCOPED_TRACE(trace);
-  FaultyRun run;
-  run.leaveAnOldRun();
-  run.expectInvariants(run.runWith(faults));
-}
-
 TEST(Faults, NothingMayStandUnderTheNameOfTheListFile) {
   for (const bool folder : {true, false}) {
     FaultyRun run;
     const std::string list = kStudy + "korventally.lst";
     if (folder) run.desktop.makeFolder(list + "\\");
     if (!folder) run.desktop.putFile(list, "RUN COMPLETED", Desktop::Attribute::kHidden);
-    const FaultyRun::Outcome outcome = run.runWith({});
+    const FaultyRun::Outcome outcome = run.run();
     EXPECT_EQ(run.desktop.enginesStarted(), 0);
     ASSERT_EQ(outcome.messages.size(), 1u);
     const std::string what = "The list file of an earlier run could not be deleted:\n";
@@ -132,7 +101,7 @@ TEST(Faults, WhatStandsThereForAMomentOnlyIsWaitedFor) {
   const std::string list = kStudy + "korventally.lst";
   run.desktop.putFile(list, "RUN FAILED", Desktop::Attribute::kHidden);
   run.desktop.at(1000, [&] { run.desktop.removeFile(list); });
-  const FaultyRun::Outcome outcome = run.runWith({});
+  const FaultyRun::Outcome outcome = run.run();
   EXPECT_EQ(outcome.status, "RUN COMPLETED");
   EXPECT_TRUE(outcome.messages.empty());
 }
@@ -178,7 +147,7 @@ TEST(Faults, AWorkingDirectoryThatGoesAndComesBackCostsNoVerdict) {
     run.desktop.at(row.goes, [&] { run.desktop.cutOff(kStudy); });
     run.desktop.at(row.comes, [&] { run.desktop.reconnect(); });
     run.desktop.advance(1);
-    const FaultyRun::Outcome outcome = run.runWith({});
+    const FaultyRun::Outcome outcome = run.run();
     EXPECT_EQ(outcome.status, row.status);
     run.expectInvariants(outcome);
     ASSERT_EQ(outcome.messages.size(), row.messages.size());
@@ -197,7 +166,7 @@ TEST(Faults, NothingIsSaidOfAnEngineWhoseDirectoryIsOutOfReach) {
     run.desktop.reconnect();
     back = run.desktop.now();
   });
-  const FaultyRun::Outcome outcome = run.runWith({});
+  const FaultyRun::Outcome outcome = run.run();
   EXPECT_GT(back, 0u) << "it waited for that long";
   ASSERT_EQ(outcome.messages.size(), 1u);
   EXPECT_TRUE(outcome.messages[0].starts_with("The engine has ended without writing"));
@@ -226,33 +195,6 @@ TEST(Faults, LeftoversGoWhenTheirDirectoryIsBackUnlessSomebodyHasThem) {
       EXPECT_EQ(run.desktop.fileBytes(inp).has_value(), who != "nobody");
     });
   }
-}
-
-TEST(Faults, EverySingleOneLeavesAUsableWindowAndATidyFolder) {
-  const std::map<Operation, int> calls = callsWithoutFaults();
-  ASSERT_EQ(calls.at(Operation::kWrite), 3) << "control file, batch file, editor batch file";
-  for (const auto& [operation, count] : calls) {
-    for (int nth = 1; nth <= count; ++nth) {
-      for (const Error& error : kErrors) {
-        checkRunWith({{operation, nth, error, false}});
-        checkRunWith({{operation, nth, error, true}});
-      }
-    }
-  }
-}
-
-TEST(Faults, PairsOfThemDoSoToo) {
-  const unsigned seed = std::random_device()();
-  SCOPED_TRACE(::testing::Message() << "seed " << seed);
-  std::mt19937 random(seed);
-  const std::map<Operation, int> calls = callsWithoutFaults();
-  const auto anyOf = [&](int count) { return static_cast<int>(random() % count); };
-  const auto anyFault = [&] {
-    const Operation operation = kOperations[anyOf(std::size(kOperations))];
-    return Fault{operation, 1 + anyOf(calls.at(operation) + 2), kErrors[anyOf(std::size(kErrors))],
-                 anyOf(2) == 0};
-  };
-  for (int pair = 0; pair < 300; ++pair) checkRunWith({anyFault(), anyFault()});
 }
 
 }  // namespace
