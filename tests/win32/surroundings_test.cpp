@@ -12,7 +12,6 @@
 #include "platform/later.h"
 #include "platform/win32/system/text.h"
 #include "platform/win32/ui/native_lookup.h"
-#include "platform/win32/ui/session.h"
 #include "tests/platform/contract/form.h"
 #include "tests/platform/contract/world.h"
 
@@ -176,7 +175,7 @@ TEST_F(Surroundings, WhatIsDueIsDoneWhileAMessageBoxIsOpen) {
 }
 
 TEST_F(Surroundings, TheEndOfTheSessionIsHeardWithoutAWindow) {
-  const win32::SessionWatch watch;
+  form.open([] {});
   bool hurried = false;
   runLater("left to do", 3000, [&] { hurried = timeIsUp(); });
   runLater("log off", 0, [] {

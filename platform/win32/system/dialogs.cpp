@@ -9,6 +9,7 @@
 // clang-format on
 
 #include "platform/win32/system/dialog_filter.h"
+#include "platform/win32/system/ole.h"
 #include "platform/win32/system/text.h"
 #include "platform/win32/ui/native_lookup.h"
 #include "platform/window.h"
@@ -62,6 +63,7 @@ Answer messageBox(Window* owner, const std::string& text, const std::string& tit
 
 void CommonDialog::ShowOpen() {
   const KeepCurrentDirectory keep;
+  win32::useOle();
   const std::wstring filter = win32::dialogFilter(toWide(Filter));
   const std::wstring folder = toWide(InitDir);
   OPENFILENAMEW dialog{};

@@ -11,6 +11,7 @@
 #include <iterator>
 #include <string>
 
+#include "platform/win32/system/ole.h"
 #include "platform/win32/system/text.h"
 #include "platform/win32/ui/native_lookup.h"
 #include "platform/window.h"
@@ -60,6 +61,7 @@ int CALLBACK callBack(HWND dialog, UINT message, LPARAM parameter, LPARAM contex
 }  // namespace
 
 ItemIdList shBrowseForFolder(const BrowseInfo& info) {
+  win32::useOle();
   const std::wstring title = toWide(info.title);
   wchar_t displayName[kMaxPath] = L"";
   BROWSEINFOW browse{};

@@ -5,6 +5,7 @@
 #include <string>
 #include <utility>
 
+#include "platform/win32/system/ole.h"
 #include "platform/win32/system/text.h"
 #include "platform/win32/ui/system_headers.h"
 
@@ -19,24 +20,34 @@ constexpr DWORD kClient = static_cast<DWORD>(OBJID_CLIENT);
 
 }  // namespace
 
-AccessibleNames::AccessibleNames() {
-  CoCreateInstance(CLSID_AccPropServices, nullptr, CLSCTX_INPROC_SERVER, IID_IAccPropServices,
-                   reinterpret_cast<void**>(&services_));
-}
-
 AccessibleNames::~AccessibleNames() {
   clear();
   if (services_ != nullptr) services_->Release();
 }
 
+IAccPropServices* AccessibleNames::services() {
+  if (std::exchange(asked_, true)) return services_;
+  useOle();
+  CoCreateInstance(CLSID_AccPropServices, nullptr, CLSCTX_INPROC_SERVER, IID_IAccPropServices,
+                   reinterpret_cast<void**>(&services_));
+  return services_;
+}
+
 void AccessibleNames::add(HWND control, const std::string& name) {
-  if (services_ == nullptr || name.empty()) return;
-  services_->SetHwndPropStr(control, kClient, CHILDID_SELF, PROPID_ACC_NAME, toWide(name).c_str());
-  named_.push_back(control);
+  if (!name.empty()) untold_.emplace_back(control, name);
+}
+
+void AccessibleNames::tell() {
+  if (untold_.empty() || services() == nullptr) return;
+  for (const auto& [control, name] : std::exchange(untold_, {})) {
+    services_->SetHwndPropStr(control, kClient, CHILDID_SELF, PROPID_ACC_NAME,
+                              toWide(name).c_str());
+    named_.push_back(control);
+  }
 }
 
 void AccessibleNames::announce(HWND control) {
-  if (services_ != nullptr) {
+  if (services() != nullptr) {
     VARIANT live;
     live.vt = VT_I4;
     live.lVal = kAssertive;

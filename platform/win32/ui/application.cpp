@@ -1,12 +1,12 @@
 #include "platform/application.h"
 
+#include <cstdlib>
 #include <exception>
 #include <new>
 #include <string>
 #include <vector>
 
 #include "platform/win32/system/text.h"
-#include "platform/win32/ui/session.h"
 #include "platform/win32/ui/system_function.h"
 #include "platform/win32/ui/system_headers.h"
 
@@ -21,22 +21,9 @@ void loadFromSystemFolderOnly() {
   if (set) set(LOAD_LIBRARY_SEARCH_SYSTEM32);
 }
 
-/// OLE for this thread as long as the program lives: the folder browser's newer style and the names
-/// for screen readers need it.
-class Ole {
- public:
-  Ole() : entered_(SUCCEEDED(OleInitialize(nullptr))) {}
-  ~Ole() {
-    if (entered_) OleUninitialize();
-  }
-  Ole(const Ole&) = delete;
-  Ole& operator=(const Ole&) = delete;
-
- private:
-  const bool entered_;
-};
-
+/// The runtime has counted the words already, so that a start without any needs no shell.
 std::vector<std::string> arguments() {
+  if (__argc < 2) return {};
   int count = 0;
   wchar_t** const words = CommandLineToArgvW(GetCommandLineW(), &count);
   std::vector<std::string> given;
@@ -56,9 +43,7 @@ int runApplication(int (*body)(const std::vector<std::string>& arguments)) {
   loadFromSystemFolderOnly();
   const INITCOMMONCONTROLSEX classes{sizeof classes, ICC_STANDARD_CLASSES | ICC_WIN95_CLASSES};
   InitCommonControlsEx(&classes);
-  const Ole ole;
   try {
-    const win32::SessionWatch watch;
     return body(arguments());
   } catch (const std::bad_alloc&) {
     return giveUp(L"KorvenTally has run out of memory and has to close.");

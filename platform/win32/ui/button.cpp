@@ -51,11 +51,11 @@ class NativeButton : public PaintedControl {
     if (!model().usable()) return PBS_DISABLED;
     if (pushed()) return PBS_PRESSED;
     if (state() & BST_HOT) return PBS_HOT;
-    return GetFocus() == handle() ? PBS_DEFAULTED : PBS_NORMAL;
+    return hasKeyboard() ? PBS_DEFAULTED : PBS_NORMAL;
   }
 
   void paintFace(HDC dc, const RECT& area) {
-    const ButtonTheme theme(handle(), stage().dpi());
+    const ButtonTheme& theme = stage().buttonTheme();
     RECT inner = area;
     if (theme) {
       theme.draw(dc, BP_PUSHBUTTON, themeState(), area);

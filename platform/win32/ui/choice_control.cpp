@@ -31,6 +31,11 @@ void ChoiceControl::refresh(Aspect aspect) {
   PaintedControl::refresh(aspect);
 }
 
+void ChoiceControl::attached() {
+  PaintedControl::attached();
+  if (on()) refresh(Aspect::kValue);
+}
+
 /// The model decides what becomes of a mark that another program sets, and shows it.
 LRESULT ChoiceControl::onMessage(UINT message, WPARAM first, LPARAM second) {
   if (message != BM_SETCHECK || fromModel_) {
@@ -72,7 +77,7 @@ int ChoiceControl::themeState() const {
 }
 
 int ChoiceControl::paintMark(HDC dc, const RECT& area) {
-  const ButtonTheme theme(handle(), stage().dpi());
+  const ButtonTheme& theme = stage().buttonTheme();
   const int side = stage().scaled(kClassicMark);
   SIZE size{side, side};
   if (theme) size = theme.size(dc, mark_.part, themeState());

@@ -26,6 +26,7 @@ class ChoiceControl : public PaintedControl {
   virtual bool on() const = 0;
   /// Another program has set the mark.
   virtual void adopt(bool on) = 0;
+  void attached() override;
   LRESULT onMessage(UINT message, WPARAM first, LPARAM second) override;
   void paint(HDC dc, const RECT& area) override;
 

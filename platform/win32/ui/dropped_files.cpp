@@ -17,6 +17,11 @@ std::string pathOf(HDROP drop, UINT file) {
 
 }  // namespace
 
+void acceptFiles(HWND window, bool accept) {
+  const LONG_PTR others = GetWindowLongPtrW(window, GWL_EXSTYLE) & ~LONG_PTR{WS_EX_ACCEPTFILES};
+  SetWindowLongPtrW(window, GWL_EXSTYLE, others | (accept ? WS_EX_ACCEPTFILES : 0));
+}
+
 std::vector<std::string> takeDrop(HWND on, WPARAM drop) {
   constexpr UINT kHowMany = 0xFFFFFFFF;
   HWND root = GetAncestor(on, GA_ROOT);

@@ -1,6 +1,5 @@
 #include "platform/line.h"
 
-#include <algorithm>
 #include <memory>
 
 #include "platform/color.h"
@@ -17,17 +16,6 @@ class NativeLine : public PaintedControl {
   NativeLine(Line& model, const Site& site) : PaintedControl(model, site, L"STATIC", SS_SIMPLE) {}
 
  protected:
-  /// The model's rule has no thickness; on the screen it has one pixel, more on a fine screen.
-  LRESULT onMessage(UINT message, WPARAM first, LPARAM second) override {
-    if (message == WM_WINDOWPOSCHANGING) {
-      auto& at = *reinterpret_cast<WINDOWPOS*>(second);
-      const int thickness = stage().scaled(1);
-      at.cx = std::max(at.cx, thickness);
-      at.cy = std::max(at.cy, thickness);
-    }
-    return PaintedControl::onMessage(message, first, second);
-  }
-
   void paint(HDC dc, const RECT& area) override {
     fill(dc, area, textColor(model().foreColor(), colors::kWhite, true));
   }

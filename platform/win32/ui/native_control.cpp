@@ -1,6 +1,8 @@
 #include "platform/win32/ui/native_control.h"
 
+#include <algorithm>
 #include <optional>
+#include <unordered_map>
 
 #include "platform/color.h"
 #include "platform/container.h"
@@ -8,15 +10,34 @@
 #include "platform/geometry.h"
 #include "platform/win32/system/text.h"
 #include "platform/win32/ui/colors.h"
+#include "platform/win32/ui/stage.h"
 #include "platform/win32/ui/system_headers.h"
 #include "platform/window.h"
 
 namespace korventally::win32 {
 namespace {
 
-constexpr UINT_PTR kSubclass = 1;
-/// The property of a window that leads to its NativeControl.
-constexpr wchar_t kProperty[] = L"KorvenTallyControl";
+/// Who stands behind a window. A property of the window would do as well, but the system would be
+/// asked for it with every message.
+std::unordered_map<HWND, NativeControl*>& controlsByWindow() {
+  static std::unordered_map<HWND, NativeControl*> controls;
+  return controls;
+}
+
+struct Pixels {
+  int left;
+  int top;
+  int width;
+  int height;
+};
+
+/// A rule of the model has no thickness; on the screen it has one pixel, more on a fine screen.
+Pixels inPixels(const Rect& place, const Stage& stage) {
+  const int least = stage.scaled(1);
+  return {stage.fromTwips(place.left), stage.fromTwips(place.top),
+          std::max(stage.fromTwips(place.width), least),
+          std::max(stage.fromTwips(place.height), least)};
+}
 
 bool asksForColor(UINT message) {
   return message == WM_CTLCOLOREDIT || message == WM_CTLCOLORSTATIC || message == WM_CTLCOLORBTN;
@@ -30,28 +51,40 @@ NativeControl::NativeControl(Control& model, const Site& site, const wchar_t* wi
   style |= WS_CHILD;
   if (model.visible()) style |= WS_VISIBLE;
   if (!model.enabled()) style |= WS_DISABLED;
-  handle_ = CreateWindowExW(
-      extendedStyle, windowClass, toWide(model.text()).c_str(), style, 0, 0, 0, 0, site.parent,
-      reinterpret_cast<HMENU>(static_cast<INT_PTR>(site.id)), GetModuleHandleW(nullptr), nullptr);
+  const Pixels at = inPixels(model.place(), stage_);
+  handle_ = CreateWindowExW(extendedStyle, windowClass, toWide(model.text()).c_str(), style,
+                            at.left, at.top, at.width, at.height, site.parent,
+                            reinterpret_cast<HMENU>(static_cast<INT_PTR>(site.id)),
+                            GetModuleHandleW(nullptr), nullptr);
+  takeFont();
 }
 
 void NativeControl::attach() {
-  SetWindowSubclass(handle_, procedure, kSubclass, reinterpret_cast<DWORD_PTR>(this));
-  SetPropW(handle_, kProperty, this);
-  refresh(Aspect::kValue);
-  refresh(Aspect::kVisible);
+  if (handle_ == nullptr) return;
+  controlsByWindow()[handle_] = this;
+  classProcedure_ = reinterpret_cast<WNDPROC>(
+      SetWindowLongPtrW(handle_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
+  attached();
+}
+
+void NativeControl::attached() {
+  if (shown() != model_.visible()) refresh(Aspect::kVisible);
 }
 
 NativeControl* NativeControl::of(HWND window) {
-  return static_cast<NativeControl*>(GetPropW(window, kProperty));
+  const auto found = controlsByWindow().find(window);
+  return found == controlsByWindow().end() ? nullptr : found->second;
 }
 
 void NativeControl::place(POINT origin) {
-  const Rect& at = model_.place();
+  takeFont();
+  const Pixels at = inPixels(model_.place(), stage_);
+  SetWindowPos(handle_, nullptr, origin.x + at.left, origin.y + at.top, at.width, at.height,
+               SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void NativeControl::takeFont() {
   SendMessageW(handle_, WM_SETFONT, reinterpret_cast<WPARAM>(stage_.font(model_.font())), FALSE);
-  SetWindowPos(handle_, nullptr, origin.x + stage_.fromTwips(at.left),
-               origin.y + stage_.fromTwips(at.top), stage_.fromTwips(at.width),
-               stage_.fromTwips(at.height), SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void NativeControl::refresh(Aspect aspect) {
@@ -102,6 +135,7 @@ HBRUSH NativeControl::color(HDC dc) {
 }
 
 LRESULT NativeControl::onMessage(UINT message, WPARAM first, LPARAM second) {
+  if (message == WM_GETOBJECT) SendMessageW(GetAncestor(handle_, GA_ROOT), kNamesWanted, 0, 0);
   const LRESULT answer = byDefault(message, first, second);
   if (message == WM_SETFOCUS) focusArrived();
   return answer;
@@ -116,17 +150,15 @@ void NativeControl::focusArrived() {
 }
 
 LRESULT NativeControl::byDefault(UINT message, WPARAM first, LPARAM second) {
-  return DefSubclassProc(handle_, message, first, second);
+  return CallWindowProcW(classProcedure_, handle_, message, first, second);
 }
 
-LRESULT CALLBACK NativeControl::procedure(HWND window, UINT message, WPARAM first, LPARAM second,
-                                          UINT_PTR id, DWORD_PTR self) {
-  if (message == WM_NCDESTROY) {
-    RemovePropW(window, kProperty);
-    RemoveWindowSubclass(window, procedure, id);
-    return DefSubclassProc(window, message, first, second);
-  }
-  return reinterpret_cast<NativeControl*>(self)->onMessage(message, first, second);
+LRESULT CALLBACK NativeControl::procedure(HWND window, UINT message, WPARAM first, LPARAM second) {
+  NativeControl* const self = of(window);
+  if (self == nullptr) return DefWindowProcW(window, message, first, second);
+  if (message != WM_NCDESTROY) return self->onMessage(message, first, second);
+  controlsByWindow().erase(window);
+  return self->byDefault(message, first, second);
 }
 
 }  // namespace korventally::win32

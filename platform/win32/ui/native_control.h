@@ -45,7 +45,8 @@ class NativeControl {
 
   /// Begins to see the window's messages. Called once, by whoever made the control.
   void attach();
-  /// Puts the window where the model says, seen from `origin` in its parent, in its font.
+  /// Puts the window where the model says, seen from `origin` in its parent, in its font. It is
+  /// made in its place, seen from the parent's corner.
   void place(POINT origin);
   /// Shows one aspect of the model.
   virtual void refresh(Aspect aspect);
@@ -58,6 +59,8 @@ class NativeControl {
   NativeControl(Control& model, const Site& site, const wchar_t* windowClass, DWORD style,
                 DWORD extendedStyle = 0);
 
+  /// The window's messages are seen from here on: shows what its creation did not.
+  virtual void attached();
   /// A message of the window's own.
   virtual LRESULT onMessage(UINT message, WPARAM first, LPARAM second);
   /// The user did something that the window's class reports by a code, such as BN_CLICKED.
@@ -73,13 +76,14 @@ class NativeControl {
   void invalidate() { InvalidateRect(handle_, nullptr, FALSE); }
 
  private:
-  static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM first, LPARAM second,
-                                    UINT_PTR id, DWORD_PTR self);
+  static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM first, LPARAM second);
+  void takeFont();
   void focusArrived();
 
   Control& model_;
   Stage& stage_;
   HWND handle_;
+  WNDPROC classProcedure_ = nullptr;
 };
 
 /// The native control for one of the model's; one function, and one file, per kind.
@@ -95,5 +99,7 @@ std::unique_ptr<NativeControl> makePictureBox(PictureBox& model, const Site& sit
 /// Sent to the window that holds a control which has got the focus, to bring it into
 /// view. The second parameter is the control's window.
 inline constexpr UINT kFocusArrived = WM_APP + 1;
+/// Sent to the window that holds a control of which an assistive program wants to know more.
+inline constexpr UINT kNamesWanted = WM_APP + 2;
 
 }  // namespace korventally::win32

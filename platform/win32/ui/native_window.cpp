@@ -16,10 +16,12 @@
 #include "platform/text_box.h"
 #include "platform/win32/system/text.h"
 #include "platform/win32/ui/dpi.h"
+#include "platform/win32/ui/dropped_files.h"
 #include "platform/win32/ui/menu_bar.h"
 #include "platform/win32/ui/native_control.h"
 #include "platform/win32/ui/native_lookup.h"
 #include "platform/win32/ui/resource_ids.h"
+#include "platform/win32/ui/session.h"
 #include "platform/win32/ui/system_headers.h"
 #include "platform/window.h"
 
@@ -62,6 +64,7 @@ NativeWindow::NativeWindow(Window& window, HWND owner)
       toolTips_(handle_),
       lastId_(kFirstControlId - 1) {
   createControls(window_, handle_);
+  placedFor_ = stage_.dpi();
   fit(true);
   // Its place may be on a screen of another resolution, and nobody has heard of the change yet.
   if (const int dpi = dpiOf(handle_); dpi != stage_.dpi()) {
@@ -69,8 +72,9 @@ NativeWindow::NativeWindow(Window& window, HWND owner)
     fit(true);
   }
   SendMessageW(handle_, WM_CHANGEUISTATE, UIS_INITIALIZE, 0);
-  DragAcceptFiles(handle_, window_.takesFiles());
+  acceptFiles(handle_, window_.takesFiles());
   views().push_back(this);
+  SetWindowLongPtrW(handle_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
   if (owner_ != nullptr) EnableWindow(owner_, FALSE);
   ShowWindow(handle_, SW_SHOWNORMAL);
   UpdateWindow(handle_);
@@ -90,11 +94,9 @@ HWND NativeWindow::createFrame(HWND owner) {
   const DWORD extendedStyle = WS_EX_CONTROLPARENT | (owner == nullptr ? 0 : WS_EX_DLGMODALFRAME);
   RECT at{CW_USEDEFAULT, CW_USEDEFAULT, 0, 0};
   if (owner != nullptr) GetWindowRect(owner, &at);
-  HWND handle = CreateWindowExW(extendedStyle, kClassName, toWide(window_.text()).c_str(),
-                                style | WS_CLIPCHILDREN, at.left, at.top, 0, 0, owner,
-                                createMenuBar(window_), GetModuleHandleW(nullptr), nullptr);
-  SetWindowLongPtrW(handle, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-  return handle;
+  return CreateWindowExW(extendedStyle, kClassName, toWide(window_.text()).c_str(),
+                         style | WS_CLIPCHILDREN, at.left, at.top, 0, 0, owner,
+                         createMenuBar(window_), GetModuleHandleW(nullptr), nullptr);
 }
 
 void NativeWindow::putBehindNeighbours(const Label& label) {
@@ -171,7 +173,7 @@ HWND NativeWindow::handleOf(const Control& control) const {
 void NativeWindow::refresh(const Control& control, Aspect aspect) {
   const auto found = controls_.find(&control);
   if (found == controls_.end()) {
-    if (aspect == Aspect::kTakesFiles) DragAcceptFiles(handle_, window_.takesFiles());
+    if (aspect == Aspect::kTakesFiles) acceptFiles(handle_, window_.takesFiles());
     if (aspect == Aspect::kText) SetWindowTextW(handle_, toWide(window_.text()).c_str());
     return;
   }
@@ -207,6 +209,7 @@ void NativeWindow::announce(const Control& control) { names_.announce(handleOf(c
 
 void NativeWindow::close() {
   stage_.close();
+  if (owner_ == nullptr) watchSession();
   // The owner comes first: hiding the active window while its owner is disabled would activate
   // another program.
   if (owner_ != nullptr) {

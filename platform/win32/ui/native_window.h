@@ -54,6 +54,11 @@ class NativeWindow : public WindowView {
   std::optional<LRESULT> handleAppearance(UINT message, WPARAM first, LPARAM second);
   std::optional<LRESULT> handleSurroundings(UINT message, WPARAM first, LPARAM second);
   void paintGround(HDC dc);
+  /// When the window appears, all that paints itself is put into one picture. Each control for
+  /// itself asks the system for its part of the screen and of what is to be painted.
+  void paintAtOnce();
+  void printControls(const Container& container, HDC dc);
+  void printControl(const Control& control, HDC dc);
   /// Puts the keyboard where the model has it.
   void restoreFocus();
   /// Gives the window the size of its contents, or of the work area if that is smaller, and lays
@@ -71,6 +76,8 @@ class NativeWindow : public WindowView {
   AccessibleNames names_;
   std::map<const Control*, std::unique_ptr<NativeControl>> controls_;
   int lastId_;
+  int placedFor_ = 0;  ///< the resolution that the controls have their places for
+  bool appeared_ = false;
   bool minimised_ = false;
   bool hadFocus_ = false;  ///< one of the controls, at some time
 };

@@ -73,11 +73,14 @@ void NativeWindow::fit(bool centre) {
                inside(at.top, size.cy, work.top, work.bottom), size.cx, size.cy,
                SWP_NOZORDER | SWP_NOACTIVATE);
   if (stage_.dpi() != dpi) return;  // moved to another screen, and fitted to that one meanwhile
+  const POINT before = scroller_.offset();
   scroller_.setSizes(contents, page);
-  placeControls();
+  const POINT now = scroller_.offset();
+  if (placedFor_ != dpi || before.x != now.x || before.y != now.y) placeControls();
 }
 
 void NativeWindow::placeControls() {
+  placedFor_ = stage_.dpi();
   for (const auto& [model, control] : controls_) {
     const bool onWindow = model->container() == &window_;
     control->place(onWindow ? scroller_.offset() : POINT{});

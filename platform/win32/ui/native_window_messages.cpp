@@ -1,9 +1,7 @@
 #include <optional>
 #include <utility>
 
-#include "platform/win32/ui/colors.h"
 #include "platform/win32/ui/dropped_files.h"
-#include "platform/win32/ui/gdi.h"
 #include "platform/win32/ui/menu_bar.h"
 #include "platform/win32/ui/native_control.h"
 #include "platform/win32/ui/native_window.h"
@@ -21,7 +19,7 @@ constexpr int kAround = 32;
 LRESULT CALLBACK NativeWindow::procedure(HWND handle, UINT message, WPARAM first, LPARAM second) {
   auto* self = reinterpret_cast<NativeWindow*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
   // While the window is being made or destroyed there is nobody to tell.
-  if (self == nullptr || of(handle) != self) return DefWindowProcW(handle, message, first, second);
+  if (self == nullptr) return DefWindowProcW(handle, message, first, second);
   return self->onMessage(message, first, second);
 }
 
@@ -50,6 +48,15 @@ std::optional<LRESULT> NativeWindow::handleInput(UINT message, WPARAM first, LPA
     case WM_SETFOCUS:
       restoreFocus();
       return 0;
+    case WM_SETCURSOR:
+      toolTips_.mouseOver(reinterpret_cast<HWND>(first));
+      return std::nullopt;
+    case WM_GETOBJECT:
+      names_.tell();
+      return std::nullopt;
+    case kNamesWanted:
+      names_.tell();
+      return 0;
     case kFocusArrived: {
       // A window opens at its beginning, wherever the first control that takes the focus is.
       if (!std::exchange(hadFocus_, true)) return 0;
@@ -69,7 +76,11 @@ std::optional<LRESULT> NativeWindow::handleInput(UINT message, WPARAM first, LPA
 std::optional<LRESULT> NativeWindow::handleAppearance(UINT message, WPARAM first, LPARAM) {
   switch (message) {
     case WM_ERASEBKGND:
-      paintGround(reinterpret_cast<HDC>(first));
+      if (std::exchange(appeared_, true)) {
+        paintGround(reinterpret_cast<HDC>(first));
+      } else {
+        paintAtOnce();
+      }
       return 1;
     case WM_PRINTCLIENT:
       paintGround(reinterpret_cast<HDC>(first));
@@ -77,12 +88,6 @@ std::optional<LRESULT> NativeWindow::handleAppearance(UINT message, WPARAM first
     default:
       return std::nullopt;
   }
-}
-
-void NativeWindow::paintGround(HDC dc) {
-  RECT area;
-  GetClientRect(handle_, &area);
-  fill(dc, area, groundColor(window_.backColor()));
 }
 
 std::optional<LRESULT> NativeWindow::handleSurroundings(UINT message, WPARAM first, LPARAM second) {
@@ -107,6 +112,7 @@ std::optional<LRESULT> NativeWindow::handleSurroundings(UINT message, WPARAM fir
       [[fallthrough]];
     case WM_SYSCOLORCHANGE:
     case WM_THEMECHANGED:
+      stage_.forgetTheme();
       RedrawWindow(handle_, nullptr, nullptr,
                    RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
       return std::nullopt;

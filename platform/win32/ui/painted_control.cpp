@@ -15,6 +15,7 @@
 #include "platform/win32/ui/gdi.h"
 #include "platform/win32/ui/native_control.h"
 #include "platform/win32/ui/system_headers.h"
+#include "platform/window.h"
 
 namespace korventally::win32 {
 namespace {
@@ -95,11 +96,9 @@ void PaintedControl::paintBuffered() {
   HDC dc = BeginPaint(handle(), &paint);
   RECT area;
   GetClientRect(handle(), &area);
-  HDC bufferDc = nullptr;
-  if (HPAINTBUFFER buffer =
-          BeginBufferedPaint(dc, &area, BPBF_COMPATIBLEBITMAP, nullptr, &bufferDc)) {
-    paintOn(bufferDc);
-    EndBufferedPaint(buffer, TRUE);
+  if (HDC buffer = stage().buffer(dc, {area.right, area.bottom})) {
+    paintOn(buffer);
+    BitBlt(dc, 0, 0, area.right, area.bottom, buffer, 0, 0, SRCCOPY);
   } else {
     paintOn(dc);
   }
@@ -139,9 +138,12 @@ SIZE PaintedControl::captionSize(HDC dc) const {
   return size;
 }
 
+bool PaintedControl::hasKeyboard() const {
+  return model().window().focused() == &model() && GetFocus() == handle();
+}
+
 bool PaintedControl::showsFocus() const {
-  return GetFocus() == handle() &&
-         !(SendMessageW(handle(), WM_QUERYUISTATE, 0, 0) & UISF_HIDEFOCUS);
+  return hasKeyboard() && !(SendMessageW(handle(), WM_QUERYUISTATE, 0, 0) & UISF_HIDEFOCUS);
 }
 
 }  // namespace korventally::win32

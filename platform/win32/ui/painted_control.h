@@ -23,6 +23,8 @@ class PaintedControl : public NativeControl {
   /// The text in the characters of the font selected.
   const std::wstring& caption() const { return caption_; }
   SIZE captionSize(HDC dc) const;
+  /// Of all controls only the one that the model has the focus on asks Windows.
+  bool hasKeyboard() const;
   /// Whether to show that the control has the focus.
   bool showsFocus() const;
 

@@ -39,6 +39,26 @@ LRESULT CALLBACK watch(HWND window, UINT message, WPARAM first, LPARAM second) {
   return DefWindowProcW(window, message, first, second);
 }
 
+/// A window that nobody sees.
+class SessionWatch {
+ public:
+  SessionWatch() {
+    WNDCLASSW type{};
+    type.lpfnWndProc = watch;
+    type.hInstance = GetModuleHandleW(nullptr);
+    type.lpszClassName = L"KorvenTallySessionWatch";
+    RegisterClassW(&type);
+    window_ = CreateWindowExW(WS_EX_TOOLWINDOW, type.lpszClassName, L"", WS_POPUP, 0, 0, 0, 0,
+                              nullptr, nullptr, type.hInstance, nullptr);
+  }
+  ~SessionWatch() { DestroyWindow(window_); }
+  SessionWatch(const SessionWatch&) = delete;
+  SessionWatch& operator=(const SessionWatch&) = delete;
+
+ private:
+  HWND window_;
+};
+
 }  // namespace
 
 std::optional<LRESULT> handleSessionEnd(HWND window, UINT message, WPARAM first) {
@@ -49,16 +69,6 @@ std::optional<LRESULT> handleSessionEnd(HWND window, UINT message, WPARAM first)
   return 0;
 }
 
-SessionWatch::SessionWatch() {
-  WNDCLASSW type{};
-  type.lpfnWndProc = watch;
-  type.hInstance = GetModuleHandleW(nullptr);
-  type.lpszClassName = L"KorvenTallySessionWatch";
-  RegisterClassW(&type);
-  window_ = CreateWindowExW(WS_EX_TOOLWINDOW, type.lpszClassName, L"", WS_POPUP, 0, 0, 0, 0,
-                            nullptr, nullptr, type.hInstance, nullptr);
-}
-
-SessionWatch::~SessionWatch() { DestroyWindow(window_); }
+void watchSession() { static SessionWatch session; }
 
 }  // namespace korventally::win32

@@ -10,17 +10,8 @@ namespace korventally::win32 {
 /// open; none for every other message.
 std::optional<LRESULT> handleSessionEnd(HWND window, UINT message, WPARAM first);
 
-/// A window that nobody sees, so that the program hears of the end of the session also once its
-/// last window has closed, while it still has something to finish.
-class SessionWatch {
- public:
-  SessionWatch();
-  ~SessionWatch();
-  SessionWatch(const SessionWatch&) = delete;
-  SessionWatch& operator=(const SessionWatch&) = delete;
-
- private:
-  HWND window_;
-};
+/// Called when a window closes under which no other is open: the program hears of the end of the
+/// session from then on too, while it still has something to finish.
+void watchSession();
 
 }  // namespace korventally::win32

@@ -8,6 +8,7 @@
 #include "platform/geometry.h"
 #include "platform/win32/system/text.h"
 #include "platform/win32/ui/gdi.h"
+#include "platform/win32/ui/theme.h"
 
 namespace korventally::win32 {
 namespace {
@@ -31,6 +32,7 @@ void Stage::setDpi(int dpi) {
   if (dpi == dpi_) return;
   dpi_ = dpi;
   fonts_.clear();
+  forgetTheme();
 }
 
 int Stage::fromTwips(int twips) const { return MulDiv(twips, dpi_, kTwipsPerInch); }
@@ -41,6 +43,11 @@ HFONT Stage::font(const Font& font) {
   if (known != fonts_.end()) return known->second.get();
   fonts_.emplace_back(font, createFont(font, dpi_));
   return fonts_.back().second.get();
+}
+
+const ButtonTheme& Stage::buttonTheme() {
+  if (!theme_) theme_.emplace(dpi_);
+  return *theme_;
 }
 
 }  // namespace korventally::win32

@@ -2,22 +2,25 @@
 
 #include <windows.h>
 
+#include <optional>
 #include <utility>
 #include <vector>
 
 #include "platform/font.h"
+#include "platform/win32/ui/back_buffer.h"
 #include "platform/win32/ui/gdi.h"
+#include "platform/win32/ui/theme.h"
 
 namespace korventally::win32 {
 
-/// What the controls of one open window share: its resolution, its fonts, and whether what the
-/// user does still counts.
+/// What the controls of one open window share: its resolution, its fonts, the visual style, and
+/// whether what the user does still counts.
 class Stage {
  public:
   explicit Stage(int dpi = USER_DEFAULT_SCREEN_DPI) : dpi_(dpi) {}
 
   int dpi() const { return dpi_; }
-  /// Forgets the fonts of the old resolution: give every control its font anew.
+  /// Forgets the fonts and the style of the old resolution: give every control its font anew.
   void setDpi(int dpi);
 
   /// Twips in pixels of this window, rounded.
@@ -25,6 +28,12 @@ class Stage {
   /// Pixels at 96 dpi, in those of this window.
   int scaled(int pixels) const { return MulDiv(pixels, dpi_, USER_DEFAULT_SCREEN_DPI); }
   HFONT font(const Font& font);
+  /// Where to paint what is to show at once: see `BackBuffer`.
+  HDC buffer(HDC screen, SIZE size) { return buffer_.dc(screen, size); }
+  /// Opened once: each opening asks the system for a dozen things.
+  const ButtonTheme& buttonTheme();
+  /// The user has chosen another visual style.
+  void forgetTheme() { theme_.reset(); }
 
   /// Once the window has closed, messages that were under way are no doings of the user's.
   bool closed() const { return closed_; }
@@ -34,6 +43,8 @@ class Stage {
   int dpi_;
   bool closed_ = false;
   std::vector<std::pair<Font, GdiObject<HFONT>>> fonts_;
+  std::optional<ButtonTheme> theme_;
+  BackBuffer buffer_;
 };
 
 }  // namespace korventally::win32

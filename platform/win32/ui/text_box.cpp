@@ -37,10 +37,10 @@ std::wstring firstLine(std::wstring text) {
 class NativeTextBox : public NativeControl {
  public:
   NativeTextBox(TextBox& model, const Site& site)
-      : NativeControl(model, site, L"EDIT", ES_AUTOHSCROLL | WS_TABSTOP, WS_EX_CLIENTEDGE),
+      : NativeControl(model, site, L"EDIT", ES_AUTOHSCROLL | WS_TABSTOP,
+                      WS_EX_CLIENTEDGE | (model.takesPath() ? WS_EX_ACCEPTFILES : 0)),
         box_(model) {
     SendMessageW(handle(), EM_LIMITTEXT, static_cast<WPARAM>(model.limit()), 0);
-    DragAcceptFiles(handle(), model.takesPath());
   }
 
   void refresh(Aspect aspect) override {
@@ -57,6 +57,13 @@ class NativeTextBox : public NativeControl {
   }
 
  protected:
+  /// The margins are taken from the area that the text has, which is asked for anew.
+  void attached() override {
+    NativeControl::attached();
+    SetWindowPos(handle(), nullptr, 0, 0, 0, 0,
+                 SWP_FRAMECHANGED | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  }
+
   LRESULT onMessage(UINT message, WPARAM first, LPARAM second) override {
     switch (message) {
       case WM_CHAR:

@@ -5,15 +5,16 @@
 namespace korventally::win32 {
 namespace {
 
-HTHEME openButtonTheme(HWND window, int dpi) {
+HTHEME openButtonTheme(int dpi) {
   using OpenType = HTHEME(WINAPI*)(HWND, LPCWSTR, UINT);
   const auto open = systemFunction<OpenType>(L"uxtheme", "OpenThemeDataForDpi");
-  return open ? open(window, L"BUTTON", static_cast<UINT>(dpi)) : OpenThemeData(window, L"BUTTON");
+  return open ? open(nullptr, L"BUTTON", static_cast<UINT>(dpi))
+              : OpenThemeData(nullptr, L"BUTTON");
 }
 
 }  // namespace
 
-ButtonTheme::ButtonTheme(HWND window, int dpi) : theme_(openButtonTheme(window, dpi)) {}
+ButtonTheme::ButtonTheme(int dpi) : theme_(openButtonTheme(dpi)) {}
 
 ButtonTheme::~ButtonTheme() {
   if (theme_ != nullptr) CloseThemeData(theme_);

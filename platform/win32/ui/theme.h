@@ -4,10 +4,10 @@
 
 namespace korventally::win32 {
 
-/// The visual style of buttons, for the length of one painting; empty where there is none.
+/// The visual style of buttons at one resolution; empty where there is none.
 class ButtonTheme {
  public:
-  ButtonTheme(HWND window, int dpi);
+  explicit ButtonTheme(int dpi);
   ButtonTheme(const ButtonTheme&) = delete;
   ButtonTheme& operator=(const ButtonTheme&) = delete;
   ~ButtonTheme();

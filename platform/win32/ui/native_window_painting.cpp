@@ -1,0 +1,72 @@
+#include "platform/container.h"
+#include "platform/control.h"
+#include "platform/frame.h"
+#include "platform/win32/ui/colors.h"
+#include "platform/win32/ui/gdi.h"
+#include "platform/win32/ui/native_window.h"
+
+namespace korventally::win32 {
+namespace {
+
+/// Where a control's window is, seen from the window that holds it.
+RECT areaWithin(HWND root, HWND control) {
+  RECT area;
+  GetWindowRect(control, &area);
+  MapWindowPoints(nullptr, root, reinterpret_cast<POINT*>(&area), 2);
+  return area;
+}
+
+void print(HWND control, HDC dc, const RECT& at) {
+  const KeepDc keep(dc);
+  SetViewportOrgEx(dc, at.left, at.top, nullptr);
+  IntersectClipRect(dc, 0, 0, at.right - at.left, at.bottom - at.top);
+  SendMessageW(control, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc), PRF_CLIENT);
+}
+
+}  // namespace
+
+void NativeWindow::paintGround(HDC dc) {
+  RECT area;
+  GetClientRect(handle_, &area);
+  fill(dc, area, groundColor(window_.backColor()));
+}
+
+void NativeWindow::paintAtOnce() {
+  RECT area;
+  GetClientRect(handle_, &area);
+  HDC screen = GetDCEx(handle_, nullptr, DCX_CACHE);  // not clipped by the controls
+  if (HDC picture = stage_.buffer(screen, {area.right, area.bottom})) {
+    paintGround(picture);
+    constexpr UINT kDone = RDW_VALIDATE | RDW_NOERASE | RDW_NOFRAME;
+    RedrawWindow(handle_, nullptr, nullptr, kDone | RDW_ALLCHILDREN);
+    printControls(window_, picture);
+    BitBlt(screen, 0, 0, area.right, area.bottom, picture, 0, 0, SRCCOPY);
+  }
+  ReleaseDC(handle_, screen);
+}
+
+void NativeWindow::printControls(const Container& container, HDC dc) {
+  const auto printAll = [&](bool labels) {
+    for (const Control* child : container.children()) {
+      if ((child->kind() == Control::Kind::kLabel) == labels) printControl(*child, dc);
+    }
+  };
+  printAll(true);  // a label may reach into its neighbour, behind which it lies
+  printAll(false);
+}
+
+void NativeWindow::printControl(const Control& control, HDC dc) {
+  HWND window = handleOf(control);
+  if (!(GetWindowLongW(window, GWL_STYLE) & WS_VISIBLE)) return;
+  if (control.kind() == Control::Kind::kTextBox) {
+    // Its edge is no part of what a control prints.
+    RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME);
+    return;
+  }
+  print(window, dc, areaWithin(handle_, window));
+  if (control.kind() == Control::Kind::kFrame) {
+    printControls(static_cast<const Frame&>(control), dc);
+  }
+}
+
+}  // namespace korventally::win32

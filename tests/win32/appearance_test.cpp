@@ -1,0 +1,99 @@
+#include <gtest/gtest.h>
+#include <windows.h>
+// Needs the types of the header above.
+#include <commctrl.h>
+
+#include <cstddef>
+#include <initializer_list>
+#include <vector>
+
+#include "info/frmAboutKORVENTALLY.h"
+#include "info/frmKORVENTALLYHelp.h"
+#include "platform/later.h"
+#include "platform/win32/ui/native_lookup.h"
+#include "run/frmRunSummary.h"
+#include "tests/platform/contract/form.h"
+#include "tests/platform/contract/world.h"
+#include "wizard/frmKORVENTALLY.h"
+
+namespace korventally::testing {
+namespace {
+
+using win32::nativeHandle;
+
+/// The colours of a window's contents as they are on the screen.
+std::vector<COLORREF> pixelsOf(HWND window) {
+  RECT area;
+  GetClientRect(window, &area);
+  std::vector<COLORREF> pixels(static_cast<std::size_t>(area.right) * area.bottom);
+  HDC screen = GetDCEx(window, nullptr, DCX_CACHE);
+  HDC memory = CreateCompatibleDC(screen);
+  HBITMAP bitmap = CreateCompatibleBitmap(screen, area.right, area.bottom);
+  const HGDIOBJ before = SelectObject(memory, bitmap);
+  BitBlt(memory, 0, 0, area.right, area.bottom, screen, 0, 0, SRCCOPY);
+  BITMAPINFO format{};
+  format.bmiHeader = {
+      sizeof(BITMAPINFOHEADER), area.right, area.bottom, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+  GetDIBits(memory, bitmap, 0, static_cast<UINT>(area.bottom), pixels.data(), &format,
+            DIB_RGB_COLORS);
+  SelectObject(memory, before);
+  DeleteObject(bitmap);
+  DeleteDC(memory);
+  ReleaseDC(window, screen);
+  return pixels;
+}
+
+TEST(Appearance, OfAWindowIsThatOfItsControls) {
+  World world;
+  basModule::analysisCase = AnalysisCase{};
+  frmKORVENTALLY wizard;
+  frmRunSummary summary;
+  frmAboutKORVENTALLY about;
+  frmKORVENTALLYHelp help;
+  for (Window* window : std::initializer_list<Window*>{&wizard, &summary, &about, &help}) {
+    runLater("visit", 0, [&] {
+      HWND handle = nativeHandle(*window);
+      HideCaret(GetFocus());
+      const auto appeared = pixelsOf(handle);
+      RedrawWindow(handle, nullptr, nullptr,
+                   RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
+      EXPECT_TRUE(appeared == pixelsOf(handle)) << window->text();
+      window->unload();
+    });
+    window->show();
+  }
+}
+
+std::vector<HWND> tipWindows() {
+  std::vector<HWND> found;
+  const auto note = [](HWND window, LPARAM list) -> BOOL {
+    wchar_t name[32] = L"";
+    GetClassNameW(window, name, 32);
+    if (lstrcmpW(name, TOOLTIPS_CLASSW) == 0) {
+      reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
+    }
+    return TRUE;
+  };
+  EnumThreadWindows(GetCurrentThreadId(), note, reinterpret_cast<LPARAM>(&found));
+  return found;
+}
+
+TEST(Appearance, OfATipNeedsTheMouse) {
+  World world;
+  Form form;
+  form.red.setToolTip("The colour of a warning");
+  form.open([&] {
+    EXPECT_TRUE(tipWindows().empty());
+    for (const Control* under : std::initializer_list<Control*>{&form.blue, &form.red, &form.red}) {
+      HWND window = nativeHandle(*under);
+      SendMessageW(window, WM_SETCURSOR, reinterpret_cast<WPARAM>(window),
+                   MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+    }
+    const std::vector<HWND> tips = tipWindows();
+    ASSERT_EQ(tips.size(), 1U);
+    EXPECT_EQ(SendMessageW(tips[0], TTM_GETTOOLCOUNT, 0, 0), 1);
+  });
+}
+
+}  // namespace
+}  // namespace korventally::testing
