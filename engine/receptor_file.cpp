@@ -81,8 +81,8 @@ class Reading {
   }
 
   double coordinate(std::string_view what, std::string_view field) const {
-    const std::optional<double> number = parseDecimal(field);
-    if (!number || std::abs(*number) > kFarthest) {
+    const std::optional<double> number = coordinateIn(field);
+    if (!number) {
       fail("gives " + std::string(what) + " as " + inQuotes(field) + ", which is no coordinate");
     }
     return *number;
@@ -115,6 +115,11 @@ class Reading {
 
 bool isReceptorId(std::string_view text) {
   return !text.empty() && text.size() <= kLongestId && !hasControl(text);
+}
+
+std::optional<double> coordinateIn(std::string_view text) {
+  const std::optional<double> number = parseDecimal(text);
+  return number && std::abs(*number) <= kFarthest ? number : std::nullopt;
 }
 
 Receptors readReceptors(InputFile& file, int format) { return Reading(file, format).finish(); }

@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,6 +27,9 @@ struct Receptor {
 bool isReceptorId(std::string_view text);
 inline constexpr const char* kReceptorIdRule =
     "it must have 1 to 12 characters and no control character";
+
+/// The coordinate that a text without blanks is, in metres; nothing when it is none.
+std::optional<double> coordinateIn(std::string_view text);
 
 /// A line of a ranked list: this receptor has this value, in ug/m**3 as far as the list tells.
 struct RankedValue {

@@ -14,6 +14,7 @@
 #include "engine/import/series.h"
 #include "engine/import/series_set.h"
 #include "engine/line_reader.h"
+#include "engine/receptor_file.h"
 #include "engine/system_files.h"
 #include "engine/text.h"
 
@@ -153,14 +154,18 @@ class FormattedReader {
                             std::string(withoutBlanks(RowLayout::y(row))),
                             std::string(withoutBlanks(layout_->network(row)))});
     const ModelPlace& place = data_.places.back();
-    for (const std::string* number : {&place.x, &place.y}) {
-      if (number->find('*') == number->npos) continue;
-      const std::size_t column = number == &place.x ? 2 : 16;
-      refuse(", column " + std::to_string(column) +
-             " has stars in place of a coordinate: it did not fit there. Let the model run with "
-             "smaller coordinates.");
-    }
+    requireCoordinate(place.x, 2);
+    requireCoordinate(place.y, 16);
     known_.learn(row);
+  }
+
+  void requireCoordinate(const std::string& text, std::size_t column) const {
+    if (coordinateIn(text)) return;
+    const bool stars = text.find('*') != text.npos;
+    refuse(", column " + std::to_string(column) +
+           (stars ? " has stars in place of a coordinate: it did not fit there. Let the model run "
+                    "with smaller coordinates."
+                  : ": " + inQuotes(text) + " is no coordinate."));
   }
 
   void addValue(std::string_view field) {
