@@ -179,6 +179,8 @@ class FormattedReader {
       case ValueFault::kNegative:
         refuseValue(": the value " + std::string(withoutBlanks(field)) + " is negative, " +
                     kOfCredits);
+      case ValueFault::kTooLarge:
+        refuseValue(": the value " + std::string(withoutBlanks(field)) + kOfLargeValues);
       case ValueFault::kNoNumber:
         refuseValue(": " + inQuotes(withoutBlanks(field)) + " is no number.");
     }

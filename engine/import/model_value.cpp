@@ -9,6 +9,7 @@
 
 #include "engine/import/row_layout.h"
 #include "engine/text.h"
+#include "engine/value_row.h"
 
 namespace korventally::engine {
 namespace {
@@ -23,6 +24,11 @@ std::size_t exponentOf(std::string_view number) {
 std::string exponentText(int exponent) {
   const std::string digits = std::to_string(std::abs(exponent));
   return std::string(exponent < 0 ? "E-" : "E+") + (digits.size() < 2 ? "0" : "") + digits;
+}
+
+// In g/m**3 at most what a concentration file may hold.
+bool isTooLarge(double value, ValueUnit unit) {
+  return value > (unit == ValueUnit::kMicrograms ? 1e6 : 1) * kLargestValue;
 }
 
 void append(std::string_view number, ValueUnit unit, std::string& line) {
@@ -50,6 +56,7 @@ ValueFault copyOtherValue(std::string_view field, ValueUnit unit, std::string& l
   const std::optional<double> value = parseModelNumber(text);
   if (!value) return ValueFault::kNoNumber;
   if (*value < 0) return ValueFault::kNegative;
+  if (isTooLarge(*value, unit)) return ValueFault::kTooLarge;
   if (text.starts_with('-')) text.remove_prefix(1);
   append(text, unit, line);
   number = std::abs(*value);
@@ -59,6 +66,7 @@ ValueFault copyOtherValue(std::string_view field, ValueUnit unit, std::string& l
 ValueFault copyValue(double value, ValueUnit unit, std::string& line) {
   if (!std::isfinite(value)) return ValueFault::kNoNumber;
   if (value < 0) return ValueFault::kNegative;
+  if (isTooLarge(value, unit)) return ValueFault::kTooLarge;
   char text[32];
   const auto end =
       std::to_chars(text, text + sizeof text, std::abs(value), std::chars_format::scientific);

@@ -22,6 +22,7 @@ enum class ValueFault {
   kNone,
   kStars,     ///< it did not fit into its column
   kNegative,  ///< an increment credit
+  kTooLarge,  ///< the engine would not read it
   kNoNumber,
 };
 
@@ -29,6 +30,9 @@ enum class ValueFault {
 inline constexpr const char* kOfCredits =
     "an increment credit. Leave such sources out of the model's groups: concentrations below zero "
     "are not judged.";
+
+/// What to say of one that is too large.
+inline constexpr const char* kOfLargeValues = " is more than the engine takes for a concentration.";
 
 /// copyValue() for any form of number.
 ValueFault copyOtherValue(std::string_view field, ValueUnit unit, std::string& line,

@@ -126,10 +126,11 @@ class UnformattedReader {
   [[noreturn]] void refuseCut() const { refuse(" ends early: the file was cut short."); }
 
   [[noreturn]] void refuseValue(ValueFault fault, std::size_t receptor) const {
-    refuse(", receptor " + std::to_string(receptor + 1) +
-           (fault == ValueFault::kNegative
-                ? std::string(" has a value that is negative, ") + kOfCredits
-                : " has a value that is no number."));
+    const std::string what = fault == ValueFault::kNegative
+                                 ? std::string(" is negative, ") + kOfCredits
+                             : fault == ValueFault::kTooLarge ? kOfLargeValues
+                                                              : " is no number.";
+    refuse(", receptor " + std::to_string(receptor + 1) + " has a value that" + what);
   }
 
   InputFile& file_;
