@@ -40,6 +40,12 @@ std::string beginOf(const SeriesFacts& series) { return placeOf(series, series.f
 
 std::string endOf(const SeriesFacts& series) { return placeOf(series, series.lastLine); }
 
+void requireName(const ImportedGroup& group) {
+  if (!group.name.empty() && !hasControl(group.name)) return;
+  throw Fault("Group " + inQuotes(group.name) + " (" + beginOf(*group.series.front()) +
+              ") has no name that a case can have: it is empty or holds a control character.");
+}
+
 void requireUnbroken(const ImportedGroup& group) {
   for (std::size_t i = 1; i < group.series.size(); ++i) {
     const SeriesFacts &before = *group.series[i - 1], &next = *group.series[i];
@@ -103,6 +109,7 @@ void putGroupsTogether(ImportedStudy& study, const ImportOptions& options) {
   }
   requireWanted(study, options);
   for (ImportedGroup& group : study.groups) {
+    requireName(group);
     std::ranges::stable_sort(group.series, {}, &SeriesFacts::first);
     requireUnbroken(group);
   }
