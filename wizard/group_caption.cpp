@@ -1,8 +1,10 @@
 #include "wizard/group_caption.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <string>
 
 #include "case/ModUtilities.h"
@@ -27,11 +29,13 @@ std::string piece(const std::string& text, const std::string& separator, int n) 
   return text.substr(start, text.find(separator, start) - start);
 }
 
+/// Small enough for the fixed groups to be counted in.
 std::int32_t numberIn(const std::string& text) {
+  constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max() - kFixedGroups;
   const std::string digits = trimBlanks(text);
   std::int32_t number = 0;
   std::from_chars(digits.data(), digits.data() + digits.size(), number);
-  return number;
+  return std::min(number, kMost);
 }
 
 }  // namespace
