@@ -35,8 +35,10 @@ bool isHeader(std::string_view bytes) {
   return top.find("SOURCE GROUP") != top.npos || top.find("MODELING OPTIONS") != top.npos;
 }
 
-// X, Y, values and heights, then the average ("1-HR"), the group, the date.
+// X, Y, values and heights, then the average ("1-HR"), the group, the date. A remark may have any
+// words, such as the name of a group.
 bool isRow(std::string_view line) {
+  if (line.starts_with('#')) return false;
   constexpr std::size_t kFieldsBefore = 4, kFieldsBehind = 2;
   Fields fields(line);
   std::vector<bool> averages;
