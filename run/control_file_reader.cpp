@@ -26,6 +26,8 @@ using control_file::Lines;
 constexpr std::size_t kMostBytes = std::size_t{256} * 1024;
 
 constexpr std::int32_t kMostGroups = kFixedGroups + kMostOtherGroups;
+/// Of a whole number that the engine reads, zeros in front among them.
+constexpr std::size_t kMostDigits = 9;
 
 Result<std::string> bytesOf(const std::string& path) {
   auto file = openForReading(path);
@@ -86,7 +88,8 @@ std::int32_t readGroupCount(Lines& lines) {
   const std::string text = lines.next("number of source groups");
   std::int32_t count = 0;
   const char* const end = text.data() + text.size();
-  const bool whole = std::from_chars(text.data(), end, count).ptr == end;
+  const bool whole =
+      text.size() <= kMostDigits && std::from_chars(text.data(), end, count).ptr == end;
   if (whole && count >= kFixedGroups && count <= kMostGroups) return count;
   lines.refuse("gives the number of source groups as " + control_file::shown(text) +
                "; it must be a whole number from 2 to 50");
