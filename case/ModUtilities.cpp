@@ -129,6 +129,11 @@ void AnimateRunning(Label& label, const std::stop_token& stop) {
   }
 }
 
+std::vector<std::string> editorBatchLines(const std::string& directory,
+                                          const std::string& fileName) {
+  return {"notepad " + batchQuoted(joinPath(trimBlanks(directory), "") + fileName)};
+}
+
 Status OpenFileInNotepad(const std::string& directory, const std::string& fileName,
                          const std::stop_token& stop) {
   const std::string folder = joinPath(trimBlanks(directory), "");
@@ -136,7 +141,7 @@ Status OpenFileInNotepad(const std::string& directory, const std::string& fileNa
   // An editor opened a moment ago has its batch file still in use.
   runNow(batch);
   Status written = retryWhileBusy(
-      [&] { return writeTextFile(batch, {"notepad " + batchQuoted(folder + fileName)}); }, stop);
+      [&] { return writeTextFile(batch, editorBatchLines(directory, fileName)); }, stop);
   if (stop.stop_requested()) return written ? removeOwnFile(batch) : Status();
   if (!written) return written;
   auto started = startBatchFile(batch, WindowStyle::kHidden, StartFolder::kSystem);

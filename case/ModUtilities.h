@@ -62,6 +62,10 @@ void AnimateRunning(Label& label, const std::stop_token& stop = {});
 Status OpenFileInNotepad(const std::string& directory, const std::string& fileName,
                          const std::stop_token& stop = {});
 
+/// What that batch file holds.
+std::vector<std::string> editorBatchLines(const std::string& directory,
+                                          const std::string& fileName);
+
 /// Text without its leading and trailing blanks (character 32 only).
 std::string trimBlanks(std::string_view text);
 

@@ -15,9 +15,8 @@ std::string enginePath() { return installationDirectory() + "\\korventally.exe";
 
 std::string batchFilePath(const AnalysisCase& theCase) { return theCase.WorkDir + kBatchFile; }
 
-std::vector<std::string> batchFileLines(const AnalysisCase& theCase) {
-  std::vector<std::string> lines{batchQuoted(enginePath()) + " " +
-                                 batchQuoted(controlFilePath(theCase))};
+std::vector<std::string> batchFileLines(const AnalysisCase& theCase, const std::string& engine) {
+  std::vector<std::string> lines{batchQuoted(engine) + " " + batchQuoted(controlFilePath(theCase))};
   if (theCase.DebugMode) lines.emplace_back("pause");
   return lines;
 }

@@ -15,6 +15,7 @@ std::string batchFilePath(const AnalysisCase& theCase);
 
 /// The batch file's lines: the quoted engine and the quoted control file; in debug mode "pause"
 /// keeps the console open at the end.
-std::vector<std::string> batchFileLines(const AnalysisCase& theCase);
+std::vector<std::string> batchFileLines(const AnalysisCase& theCase,
+                                        const std::string& engine = enginePath());
 
 }  // namespace korventally

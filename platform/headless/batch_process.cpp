@@ -1,17 +1,14 @@
 #include "platform/headless/batch_process.h"
 
-#include <algorithm>
-#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "platform/files.h"
-#include "platform/headless/command_line.h"
 #include "platform/headless/desktop.h"
 #include "platform/headless/engine_process.h"
+#include "platform/headless/interpreter.h"
 #include "platform/headless/path.h"
 #include "platform/headless/world.h"
 
@@ -22,42 +19,27 @@ constexpr std::uint32_t kForEver = 0xFFFFFFFF;
 
 Desktop::World& world() { return Desktop::current().world(); }
 
-std::vector<std::string> linesOf(const std::string& bytes) {
-  std::vector<std::string> lines;
-  std::size_t start = 0;
-  while (start < bytes.size()) {
-    const std::size_t end = std::min(bytes.find('\n', start), bytes.size());
-    std::string line = bytes.substr(start, end - start);
-    if (line.ends_with('\r')) line.pop_back();
-    lines.push_back(std::move(line));
-    start = end + 1;
-  }
-  return lines;
-}
-
 }  // namespace
 
 void BatchProcess::start() {
   if (!world().files.reaches(path_)) {
     // The interpreter complains in its own window and ends.
   } else if (const auto bytes = Desktop::current().fileBytes(path_)) {
-    lines_ = linesOf(fromAnsi(*bytes));
+    const auto commands = readBatchFile(fromAnsi(*bytes), {});
+    if (!commands) Desktop::onFailure("the interpreter cannot make sense of: " + *bytes);
+    commands_ = commands.value_or(std::vector<Command>());
   } else {
     Desktop::onFailure("a batch file was started that is not there: " + path_);
   }
-  runLines();
+  runCommands();
 }
 
-void BatchProcess::runLines() {
-  while (running_ && !waiting_ && !lines_.empty()) {
-    const std::string line = lines_.front();
-    lines_.erase(lines_.begin());
-    const auto commands = readCommandLine(line);
-    if (!commands) Desktop::onFailure("the interpreter cannot make sense of: " + line);
-    // The batch files of this program never hold two commands in a line.
-    for (const auto& words : commands.value_or(std::vector<std::vector<std::string>>{})) {
-      runCommand(words);
-    }
+void BatchProcess::runCommands() {
+  while (running_ && !waiting_ && !commands_.empty()) {
+    const Command command = commands_.front();
+    commands_.erase(commands_.begin());
+    if (command.redirected) Desktop::onFailure("the batch file writes a file: " + path_);
+    runCommand(command.words);
   }
   if (!waiting_) running_ = false;
 }
@@ -102,7 +84,7 @@ void BatchProcess::goOn() {
   letGoOfBatchFile();
   engine_ = nullptr;
   waiting_ = false;
-  runLines();
+  runCommands();
 }
 
 void BatchProcess::terminate() {

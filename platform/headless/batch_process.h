@@ -5,6 +5,8 @@
 #include <utility>
 #include <vector>
 
+#include "platform/headless/interpreter.h"
+
 namespace korventally::headless {
 
 class EngineProcess;
@@ -22,7 +24,7 @@ class BatchProcess : public std::enable_shared_from_this<BatchProcess> {
   void endInterpreter();
 
  private:
-  void runLines();
+  void runCommands();
   void runCommand(const std::vector<std::string>& words);
   void startEngine(const std::string& program, const std::string& controlFile);
   /// Some interpreters keep the file open for as long as a program runs that it has started.
@@ -32,7 +34,7 @@ class BatchProcess : public std::enable_shared_from_this<BatchProcess> {
   void goOn();
 
   const std::string path_;
-  std::vector<std::string> lines_;  ///< those still to run
+  std::vector<Command> commands_;  ///< those still to run
   std::shared_ptr<EngineProcess> engine_;
   bool running_ = true;
   bool waiting_ = false;

@@ -75,7 +75,7 @@ TEST_F(SimulatedDesktop, TellsOfCommandsThatWereNeverMeant) {
   desktop->putFile("C:\\Prog\\korventally.exe", "");
   for (const char* line :
        {"calc", "notepad a b", "notepad", "\"C:\\Prog\\korventally.exe\"", "pause now",
-        "C:\\Prog\\korventally.exe \"C:\\x", "notepad \"x\" & del y"}) {
+        "for %%a in (b) do c", "del y & notepad \"x\"", "notepad x > y"}) {
     const std::size_t before = failures.size();
     (void)run(line);
     EXPECT_EQ(failures.size(), before + 1) << line;
