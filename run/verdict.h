@@ -24,11 +24,11 @@ class VerdictScanner {
   std::optional<Verdict> verdict() const;
 
  private:
+  void addToLine(std::string_view bytes);
   void addToLine(char c);
-  std::optional<Verdict> verdictOfLine() const;
 
-  /// The line so far, from its first character that is no blank. Blanks wait in a counter of their
-  /// own until something follows them.
+  /// The line that has no end yet, from its first character that is no blank. Blanks wait in a
+  /// counter of their own until something follows them.
   std::string line_;
   std::size_t pendingBlanks_ = 0;
   bool tooLong_ = false;

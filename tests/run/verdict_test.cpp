@@ -51,6 +51,20 @@ TEST(VerdictScanner, TakesTheLastWholeLineThatIsAVerdict) {
   }
 }
 
+TEST(VerdictScanner, FindsItWhereverItStandsInALargePieceAndWhereverThatIsCut) {
+  const std::string after =
+      "\nRUN\rRUN  FAILED\nA RUN FAILED\n RUN FAILED x\n" + std::string(300, 'R');
+  for (std::size_t before = 240; before < 275; ++before) {
+    const std::string bytes = "\n" + std::string(before, 'U') + "\r  RUN COMPLETED  " + after;
+    for (std::size_t cut = before; cut < before + 60; ++cut) {
+      VerdictScanner scanner;
+      scanner.feed(std::string_view(bytes).substr(0, cut));
+      scanner.feed(std::string_view(bytes).substr(cut));
+      ASSERT_EQ(scanner.verdict(), kCompleted) << before << " bytes before, cut at " << cut;
+    }
+  }
+}
+
 TEST(ReadVerdict, NeedsAFileThatCanBeReadToItsEnd) {
   Desktop desktop;
   desktop.makeFolder("C:\\S\\");
