@@ -1,21 +1,15 @@
-#!/usr/bin/env python3
-"""Megabytes per second and core: `korventally import` beside wc -l, awk and Python.
-
-Usage: imports.py ENGINE [RECEPTORS]
-Writes a year of hours of two groups as a dispersion model prints them (250 receptors unless told
-otherwise), lets each read it in turns, and shows the best of nine runs. awk and Python do what the
-awk script of one's own did: a line per hour of one group, the values with their exponent.
-"""
+"""`korventally import` beside wc -l, awk and Python on a dispersion model's files."""
 import datetime
-import os
 import pathlib
 import random
+import struct
 import sys
-import tempfile
 
-from formats import seconds
+from forms import fortran
+from measure import awk, busy, figure, in_turns, peak
 
-RUNS = 9
+RECEPTORS, HOURS, RUNS, SLOW_RUNS = 250, 8760, 7, 2
+# What a script of one's own does: a line per hour of one group, the values with their exponent.
 AWK = """!/^\\*/ { if ($9 != hour) { printf "\\n%s", $9; hour = $9 } printf " %sE-06", $3 }"""
 PYTHON = """
 import sys
@@ -30,56 +24,99 @@ with open(sys.argv[1]) as rows, open(sys.argv[2], "w") as out:
             out.write("\\n" + hour)
         out.write(" " + fields[2] + "E-06")
 """
+HEAD = ("*        X             Y      AVERAGE CONC    ZELEV    ZHILL    ZFLAG    AVE     "
+        "GRP       DATE     NET ID\n")
+BLOCKS = 20
 
 
-def write_group(file, group, receptors):
-    """A year of rows; values over eight decades, an hour in a hundred zero everywhere."""
+def dates(hours):
+    """The names that a model gives the hours, YYMMDDHH with hours 01 to 24."""
+    for hour in range(hours):
+        day = datetime.date(2010, 1, 1) + datetime.timedelta(days=hour // 24)
+        yield day.strftime("%y%m%d") + "%02d" % (hour % 24 + 1)
+
+
+def values(group, receptors):
+    """Values over eight decades for some hours, which then come again."""
     source = random.Random(group)
+    return [[1000 * 10 ** source.uniform(-8, 0) for _ in range(receptors)] for _ in range(BLOCKS)]
+
+
+def write_formatted(file, group, receptors, hours, text):
+    """An hour in a hundred is zero everywhere."""
     places = [" %13.5f %13.5f " % (100 * (i % 50), 100 * (i // 50)) for i in range(receptors)]
-    values = ["%13.5f" % (1000 * 10 ** source.uniform(-8, 0)) for _ in range(99991)]
-    next_value = 0
+    tail = " %8.2f %8.2f %8.2f    1-HR  %-8s  @DATE@  GRID    \n" % (0, 0, 0, group)
+    def block(of):
+        return "".join(place + text(value).rjust(13) + tail for place, value in zip(places, of))
+    blocks = [block(of) for of in values(group, receptors)]
+    calm = block([0.0] * receptors)
     with open(file, "w", encoding="ascii", newline="") as out:
-        out.write("*        X             Y      AVERAGE CONC    ZELEV    ZHILL    ZFLAG    AVE     "
-                  "GRP       DATE     NET ID\n")
-        for hour in range(8760):
-            date = datetime.date(2010, 1, 1) + datetime.timedelta(days=hour // 24)
-            tail = " %8.2f %8.2f %8.2f    1-HR  %-8s  %s%02d  GRID    \n" % (
-                0, 0, 0, group, date.strftime("%y%m%d"), hour % 24 + 1)
-            rows = []
-            for place in places:
-                next_value = (next_value + 1) % len(values)
-                rows.append(place + ("%13.5f" % 0 if hour % 100 == 7 else values[next_value]) + tail)
-            out.write("".join(rows))
+        out.write(HEAD)
+        for hour, date in enumerate(dates(hours)):
+            rows = calm if hour % 100 == 7 else blocks[hour % BLOCKS]
+            out.write(rows.replace("@DATE@", date))
 
 
-def main():
-    engine = sys.argv[1]
-    receptors = int(sys.argv[2]) if len(sys.argv) > 2 else 250
-    with tempfile.TemporaryDirectory(prefix="korventally_imports") as temporary:
-        folder = pathlib.Path(temporary)
-        files = [str(folder / (group + ".pst")) for group in ("ALL", "FACILITY")]
-        for file in files:
-            write_group(file, pathlib.Path(file).stem, receptors)
-        (folder / "one.py").write_text(PYTHON, encoding="ascii")
-        commands = [
-            ("wc -l", files, ["wc", "-l"] + files),
-            ("korventally import", files, [engine, "import", "--out", str(folder / "out")] + files),
-            ("awk", files[:1], ["awk", AWK, files[0]]),
-            ("Python", files[:1], [sys.executable, str(folder / "one.py"), files[0], os.devnull]),
-        ]
-        best = {name: float("inf") for name, _, _ in commands}
-        for run in range(RUNS):
-            for name, _, command in commands:
-                if run < 2 or name in ("wc -l", "korventally import"):
-                    best[name] = min(best[name], seconds(command))
-        print("%-20s %8s %10s %8s" % ("", "MB", "MB/s", "of wc -l"))
-        counting = 0
-        for name, read, _ in commands:
-            megabytes = sum(os.path.getsize(file) for file in read) / 1e6
-            speed = megabytes / best[name]
-            counting = counting or speed
-            print("%-20s %8.0f %10.0f %8.3f" % (name, megabytes, speed, speed / counting))
+def write_unformatted(file, group, receptors, hours):
+    size = 16 + 8 * receptors
+    bodies = [struct.pack("<%dd" % receptors, *of) for of in values(group, receptors)]
+    with open(file, "wb") as out:
+        for hour, date in enumerate(dates(hours)):
+            length = struct.pack("<i", size)
+            head = struct.pack("<ii8s", int(date), 1, group.ljust(8).encode())
+            out.write(length + head + bodies[hour % BLOCKS] + length)
 
 
-if __name__ == "__main__":
-    main()
+def write_receptors(folder, receptors):
+    path = folder / "places.dat"
+    path.write_text("".join("%d %d R%d\n" % (100 * (i % 50), 100 * (i // 50), i)
+                            for i in range(receptors)), encoding="ascii")
+    return path
+
+
+def write_f13_5(file, group, receptors, hours):
+    write_formatted(file, group, receptors, hours, lambda v: "%.5f" % v)
+
+
+def write_exp(file, group, receptors, hours):
+    write_formatted(file, group, receptors, hours, fortran(6))
+
+
+FORMS = [("`F13.5`", write_f13_5, True), ("FILEFORM EXP (`0.123456E-04`)", write_exp, True),
+         ("UNFORM", write_unformatted, False)]
+
+
+def command(bench, folder, files):
+    return [bench.engine, "import", "--zero-hours", "valid", "--out", folder / "out", "--receptors",
+            write_receptors(folder, RECEPTORS), *files]
+
+
+def measure(bench):
+    page = bench.page
+    page.heading("The import of a model's files")
+    page.say("`korventally import` of a year of hours of two groups at %d receptors, files in the "
+             "system's cache; MB/s per core of the model's files, medians of %d runs in turns, of "
+             "awk and Python %d. awk and Python write one group's values in lines of hours, and "
+             "check nothing." % (RECEPTORS, RUNS, SLOW_RUNS))
+    rows = []
+    for name, write, is_text in FORMS:
+        with bench.scratch() as temporary:
+            folder = pathlib.Path(temporary)
+            files = [folder / (group + ".pst") for group in ("ALL", "FACILITY")]
+            for file in files:
+                write(file, file.stem, RECEPTORS, HOURS)
+            one = files[0].stat().st_size / 1e6
+            importing = command(bench, folder, files)
+            used = in_turns(RUNS, {"wc": ["wc", "-l", *files], "import": importing})
+            memory = peak(importing)
+            (folder / "own.py").write_text(PYTHON, encoding="ascii")
+            slow = in_turns(SLOW_RUNS, {
+                "awk": [awk(), AWK, files[0]],
+                "Python": [sys.executable, folder / "own.py", files[0], "/dev/null"],
+            } if is_text else {})
+        wc, own = (2 * one / busy(used[of]) for of in ("wc", "import"))
+        rows.append([name, figure(2 * one), figure(wc), figure(own), figure(own / wc),
+                     *(figure(one / busy(slow[of])) if slow else "" for of in ("awk", "Python")),
+                     figure(memory)])
+    page.table(["Form", "MB", "`wc -l`", "the import", "against `wc -l`", "awk (mawk)", "Python",
+                "peak, MB"], rows)

@@ -127,16 +127,14 @@ start_display() { # width x height
 # manager. Everything else opens its windows on the display itself; without a manager to wait for,
 # each of the contract's many windows would otherwise take two seconds.
 wine_settings() { # width x height, dots per inch
-  local dpi
+  local dpi driver
   dpi=$(printf '%08x' "$2")
+  printf 'REGEDIT4\n'
+  for driver in e2e_tests demo_driver start_timer window_bench; do
+    printf '\n[HKEY_CURRENT_USER\\Software\\Wine\\AppDefaults\\%s.exe\\Explorer]\n' $driver
+    printf '"Desktop"="driven"\n'
+  done
   cat <<REGISTRY
-REGEDIT4
-
-[HKEY_CURRENT_USER\\Software\\Wine\\AppDefaults\\e2e_tests.exe\\Explorer]
-"Desktop"="driven"
-
-[HKEY_CURRENT_USER\\Software\\Wine\\AppDefaults\\demo_driver.exe\\Explorer]
-"Desktop"="driven"
 
 [HKEY_CURRENT_USER\\Software\\Wine\\AppDefaults\\contract_tests.exe\\X11 Driver]
 "Managed"="N"
