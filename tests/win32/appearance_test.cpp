@@ -9,6 +9,7 @@
 
 #include "info/frmAboutKORVENTALLY.h"
 #include "info/frmKORVENTALLYHelp.h"
+#include "platform/events.h"
 #include "platform/later.h"
 #include "platform/win32/ui/native_lookup.h"
 #include "run/frmRunSummary.h"
@@ -20,6 +21,8 @@ namespace korventally::testing {
 namespace {
 
 using win32::nativeHandle;
+
+constexpr RECT kTopLeft{0, 0, 0, 0};
 
 /// The colours of a window's contents as they are on the screen.
 std::vector<COLORREF> pixelsOf(HWND window) {
@@ -43,6 +46,32 @@ std::vector<COLORREF> pixelsOf(HWND window) {
   return pixels;
 }
 
+/// What is on the screen must be what every control would paint by itself.
+void expectPainted(HWND window, const char* when) {
+  HideCaret(GetFocus());
+  const auto shown = pixelsOf(window);
+  RedrawWindow(window, nullptr, nullptr,
+               RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
+  EXPECT_TRUE(shown == pixelsOf(window)) << when;
+}
+
+void turnAll(const Container& container) {
+  for (Control* child : container.children()) {
+    child->setEnabled(!child->enabled());
+    if (child->kind() == Control::Kind::kFrame) turnAll(static_cast<const Frame&>(*child));
+  }
+}
+
+/// Frames and labels, which lie around and behind others.
+void renameAll(const Container& container) {
+  for (Control* child : container.children()) {
+    if (child->kind() == Control::Kind::kLabel) child->setText(child->text() + ".");
+    if (child->kind() != Control::Kind::kFrame) continue;
+    child->setText(child->text() + ".");
+    renameAll(static_cast<const Frame&>(*child));
+  }
+}
+
 TEST(Appearance, OfAWindowIsThatOfItsControls) {
   World world;
   basModule::analysisCase = AnalysisCase{};
@@ -51,13 +80,21 @@ TEST(Appearance, OfAWindowIsThatOfItsControls) {
   frmAboutKORVENTALLY about;
   frmKORVENTALLYHelp help;
   for (Window* window : std::initializer_list<Window*>{&wizard, &summary, &about, &help}) {
+    SCOPED_TRACE(window->text());
     runLater("visit", 0, [&] {
       HWND handle = nativeHandle(*window);
-      HideCaret(GetFocus());
-      const auto appeared = pixelsOf(handle);
-      RedrawWindow(handle, nullptr, nullptr,
-                   RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
-      EXPECT_TRUE(appeared == pixelsOf(handle)) << window->text();
+      expectPainted(handle, "when it appears");
+      turnAll(*window);
+      processPendingEvents();
+      expectPainted(handle, "when everything has changed");
+      renameAll(*window);
+      processPendingEvents();
+      expectPainted(handle, "when only captions have changed");
+      SendMessageW(handle, WM_DPICHANGED, MAKEWPARAM(144, 144),
+                   reinterpret_cast<LPARAM>(&kTopLeft));
+      turnAll(*window);
+      processPendingEvents();
+      expectPainted(handle, "at another resolution");
       window->unload();
     });
     window->show();

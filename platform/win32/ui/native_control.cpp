@@ -91,17 +91,17 @@ void NativeControl::refresh(Aspect aspect) {
   switch (aspect) {
     case Aspect::kEnabled:
       EnableWindow(handle_, model_.enabled());
-      RedrawWindow(handle_, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+      lookChanged();
       break;
     case Aspect::kVisible:
       ShowWindow(handle_, shown() ? SW_SHOWNA : SW_HIDE);
       break;
     case Aspect::kText:
       SetWindowTextW(handle_, toWide(model_.text()).c_str());
-      invalidate();
+      lookChanged();
       break;
     case Aspect::kBackColor:
-      invalidate();
+      lookChanged();
       break;
     case Aspect::kValue:
     case Aspect::kSelection:

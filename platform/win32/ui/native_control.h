@@ -50,6 +50,10 @@ class NativeControl {
   void place(POINT origin);
   /// Shows one aspect of the model.
   virtual void refresh(Aspect aspect);
+  /// What the window shows is no longer what it should.
+  virtual void lookChanged() {
+    RedrawWindow(handle_, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME);
+  }
 
   /// What Windows asks or tells a control's parent: WM_COMMAND, WM_NOTIFY and WM_CTLCOLOR....
   /// Whoever is a parent hands its messages on here; none when the message is not a child's.
@@ -73,7 +77,6 @@ class NativeControl {
 
   LRESULT byDefault(UINT message, WPARAM first, LPARAM second);
   Stage& stage() const { return stage_; }
-  void invalidate() { InvalidateRect(handle_, nullptr, FALSE); }
 
  private:
   static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM first, LPARAM second);
@@ -99,6 +102,8 @@ std::unique_ptr<NativeControl> makePictureBox(PictureBox& model, const Site& sit
 /// Sent to the window that holds a control which has got the focus, to bring it into
 /// view. The second parameter is the control's window.
 inline constexpr UINT kFocusArrived = WM_APP + 1;
+/// Posted to the window when some of its controls have to be painted.
+inline constexpr UINT kPaintSoiled = WM_APP + 3;
 /// Sent to the window that holds a control of which an assistive program wants to know more.
 inline constexpr UINT kNamesWanted = WM_APP + 2;
 

@@ -48,6 +48,12 @@ void registerClass(WNDPROC procedure) {
   RegisterClassExW(&windowClass);  // fails, and does no harm, from the second window on
 }
 
+/// Whether a control is another one or around it.
+bool holds(const Control& control, const Control* other) {
+  while (other != nullptr && other != &control) other = other->container();
+  return other != nullptr;
+}
+
 bool overlap(const Rect& a, const Rect& b) {
   return a.left < b.left + b.width && b.left < a.left + a.width && a.top < b.top + b.height &&
          b.top < a.top + a.height;
@@ -59,7 +65,7 @@ NativeWindow::NativeWindow(Window& window, HWND owner)
     : window_(window),
       owner_(owner),
       handle_(createFrame(owner)),
-      stage_(dpiOf(handle_)),
+      stage_(handle_),
       scroller_(handle_),
       toolTips_(handle_),
       lastId_(kFirstControlId - 1) {
@@ -178,9 +184,21 @@ void NativeWindow::refresh(const Control& control, Aspect aspect) {
     return;
   }
   found->second->refresh(aspect);
+  if (aspect == Aspect::kEnabled && control.kind() == Control::Kind::kFrame) {
+    contentsChanged(static_cast<const Frame&>(control));
+  }
   // Disabling the control that has the keyboard leaves the keyboard with nobody, or with a control
   // that does not listen.
-  if (aspect == Aspect::kEnabled || aspect == Aspect::kVisible) restoreFocus();
+  const bool movesKeyboard = aspect == Aspect::kEnabled || aspect == Aspect::kVisible;
+  if (movesKeyboard && holds(control, window_.focused())) restoreFocus();
+}
+
+/// What lies in a frame looks as usable as the frame.
+void NativeWindow::contentsChanged(const Frame& frame) {
+  for (const Control* child : frame.children()) {
+    controls_.at(child)->lookChanged();
+    if (child->kind() == Control::Kind::kFrame) contentsChanged(static_cast<const Frame&>(*child));
+  }
 }
 
 bool NativeWindow::setFocus(const Control& control) {

@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "platform/container.h"
+#include "platform/frame.h"
 #include "platform/win32/ui/accessible_names.h"
 #include "platform/win32/ui/native_control.h"
 #include "platform/win32/ui/scroller.h"
@@ -57,6 +58,12 @@ class NativeWindow : public WindowView {
   /// When the window appears, all that paints itself is put into one picture. Each control for
   /// itself asks the system for its part of the screen and of what is to be painted.
   void paintAtOnce();
+  /// Paints what has changed since the last time.
+  void paintSoiled();
+  void paintControl(const Control& control, HDC picture, HDC screen);
+  void contentsChanged(const Frame& frame);
+  /// Leaves what lies over a control out of what is painted.
+  void excludeCovered(const Control& control, HDC dc);
   void printControls(const Container& container, HDC dc);
   void printControl(const Control& control, HDC dc);
   /// Puts the keyboard where the model has it.

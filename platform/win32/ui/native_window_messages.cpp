@@ -82,6 +82,9 @@ std::optional<LRESULT> NativeWindow::handleAppearance(UINT message, WPARAM first
         paintAtOnce();
       }
       return 1;
+    case kPaintSoiled:
+      if (!closed()) paintSoiled();
+      return 0;
     case WM_PRINTCLIENT:
       paintGround(reinterpret_cast<HDC>(first));
       return 0;

@@ -45,6 +45,45 @@ void NativeWindow::paintAtOnce() {
   ReleaseDC(handle_, screen);
 }
 
+void NativeWindow::paintSoiled() {
+  RECT area;
+  GetClientRect(handle_, &area);
+  const auto soiled = stage_.takeSoiled();
+  HDC screen = GetDCEx(handle_, nullptr, DCX_CACHE);
+  if (HDC picture = stage_.buffer(screen, {area.right, area.bottom})) {
+    for (const Control* control : soiled) paintControl(*control, picture, screen);
+  } else {
+    RedrawWindow(handle_, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+  }
+  ReleaseDC(handle_, screen);
+}
+
+void NativeWindow::paintControl(const Control& control, HDC picture, HDC screen) {
+  HWND window = handleOf(control);
+  if (!IsWindowVisible(window)) return;
+  const RECT at = areaWithin(handle_, window);
+  print(window, picture, at);
+  const KeepDc keep(screen);
+  excludeCovered(control, screen);
+  BitBlt(screen, at.left, at.top, at.right - at.left, at.bottom - at.top, picture, at.left, at.top,
+         SRCCOPY);
+}
+
+void NativeWindow::excludeCovered(const Control& control, HDC dc) {
+  const auto exclude = [&](const Control& other) {
+    if (!other.visible()) return;
+    const RECT covered = areaWithin(handle_, handleOf(other));
+    ExcludeClipRect(dc, covered.left, covered.top, covered.right, covered.bottom);
+  };
+  if (control.kind() == Control::Kind::kFrame) {
+    for (const Control* child : static_cast<const Frame&>(control).children()) exclude(*child);
+  }
+  if (control.kind() != Control::Kind::kLabel) return;
+  for (const Control* neighbour : control.container()->children()) {
+    if (neighbour->kind() != Control::Kind::kLabel) exclude(*neighbour);
+  }
+}
+
 void NativeWindow::printControls(const Container& container, HDC dc) {
   const auto printAll = [&](bool labels) {
     for (const Control* child : container.children()) {

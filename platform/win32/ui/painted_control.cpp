@@ -25,7 +25,6 @@ bool changesLook(UINT message) {
   switch (message) {
     case BM_SETSTATE:
     case BM_SETCHECK:
-    case WM_ENABLE:
     case WM_SETTEXT:
     case WM_SETFOCUS:
     case WM_KILLFOCUS:
@@ -77,9 +76,12 @@ LRESULT PaintedControl::onMessage(UINT message, WPARAM first, LPARAM second) {
     case WM_PAINT:
       paintBuffered();
       return 0;
+    case WM_ENABLE:  // Windows' own control would only show it, in its own look
+      lookChanged();
+      return 0;
     default:
       const LRESULT answer = NativeControl::onMessage(message, first, second);
-      if (changesLook(message)) invalidate();
+      if (changesLook(message)) lookChanged();
       return answer;
   }
 }

@@ -9,6 +9,10 @@ namespace korventally::win32 {
 /// A control that paints itself, because Windows' own look has no room for the model's colours
 /// under a visual style. In all else it is Windows' control.
 class PaintedControl : public NativeControl {
+ public:
+  /// It is painted with all others that have changed by then.
+  void lookChanged() override { stage().soil(model()); }
+
  protected:
   using NativeControl::NativeControl;
 

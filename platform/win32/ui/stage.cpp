@@ -4,10 +4,12 @@
 #include <cmath>
 #include <string_view>
 
+#include "platform/control.h"
 #include "platform/font.h"
 #include "platform/geometry.h"
 #include "platform/win32/system/text.h"
 #include "platform/win32/ui/gdi.h"
+#include "platform/win32/ui/native_control.h"
 #include "platform/win32/ui/theme.h"
 
 namespace korventally::win32 {
@@ -43,6 +45,11 @@ HFONT Stage::font(const Font& font) {
   if (known != fonts_.end()) return known->second.get();
   fonts_.emplace_back(font, createFont(font, dpi_));
   return fonts_.back().second.get();
+}
+
+void Stage::soil(const Control& control) {
+  if (soiled_.empty()) PostMessageW(window_, kPaintSoiled, 0, 0);
+  soiled_.insert(&control);
 }
 
 const ButtonTheme& Stage::buttonTheme() {

@@ -20,7 +20,6 @@ namespace {
 
 constexpr WPARAM kControlA = 1;
 constexpr WPARAM kControlBackspace = 127;
-constexpr UINT kWithMargins = RDW_INVALIDATE | RDW_FRAME;
 
 std::wstring textOf(HWND window) {
   std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
@@ -51,7 +50,6 @@ class NativeTextBox : public NativeControl {
       NativeControl::refresh(aspect);
       fromCode_ = false;
     }
-    if (aspect == Aspect::kBackColor) RedrawWindow(handle(), nullptr, nullptr, kWithMargins);
     // Whoever goes on typing does so behind the text that was put there.
     if (aspect == Aspect::kText) SendMessageW(handle(), EM_SETSEL, 0x7FFFFFFF, 0x7FFFFFFF);
   }
