@@ -14,6 +14,8 @@ build_packages=(cmake ninja-build g++ g++-mingw-w64-x86-64-posix googletest)
 desktop_packages=(wine wine64 fonts-wine fonts-liberation xvfb imagemagick)
 browser_packages=(chromium chromium-driver python3-selenium)
 guide_packages=(pandoc)
+# The program as a user gets it has the guide beside it.
+program_packages=("${build_packages[@]}" "${guide_packages[@]}")
 
 fail() {
   printf '%s\n' "$*" >&2
@@ -64,12 +66,13 @@ build_preset() { # preset, targets...
 
 cross_build() { build_preset windows "$@"; }
 
-# The program as a user gets it, in dist/KorvenTally/.
-build_program() {
-  stage "Cross-building the wizard and the engine for Windows" build-windows \
-    cross_build KorvenTallyWizard korventally
-  stage "Putting them into dist/KorvenTally/" install \
-    cmake --install "$build/windows" --prefix "$installation" --strip
+version() { sed -n 's/^project(KorvenTally VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt; }
+
+# A page for a browser. It has the version that it tells of, and a way back to the guide.
+render_page() { # source, page, folder of the guide as the page names it
+  pandoc -f gfm-smart -t html5 --wrap=none --no-highlight --template resources/guide/template.html \
+    --metadata "pagetitle=$(sed -n '1s/^# //p' "$1")" --metadata "version=$(version)" \
+    --metadata "guide=$3" "$1" >"$2"
 }
 
 # The pages that the guide leads to, all in one folder: links from one to another lose the folders
@@ -80,11 +83,36 @@ render_guide() { # folder
   mkdir -p "$1"
   cp -r docs/guide/images "$1/images"
   for page in docs/guide/*.md docs/engine.md docs/import.md CHANGELOG.md; do
-    name=${page##*/}
-    pandoc -f gfm-smart -t html5 --wrap=none --no-highlight --template resources/guide/template.html \
-      --metadata "pagetitle=$(sed -n '1s/^# //p' "$page")" "$page" |
-      sed -E 's|href="([^":]*/)?([A-Za-z-]+)\.md|href="\2.html|g' >"$1/${name%.md}.html" || return
+    name=$1/$(basename "$page" .md).html
+    render_page "$page" "$name" . || return
+    sed -i -E 's|href="([^":]*/)?([A-Za-z-]+)\.md|href="\2.html|g' "$name"
   done
+}
+
+# All pages of the program: the guide, the one to begin with, and those of the samples.
+render_pages() { # folder of the program
+  local page
+  render_guide "$1/guide" || return
+  mkdir -p "$1/samples/dispersion"
+  render_page docs/start.md "$1/README.html" guide || return
+  render_page samples/README.md "$1/samples/README.html" ../guide || return
+  render_page samples/dispersion/README.md "$1/samples/dispersion/README.html" ../../guide || return
+  for page in "$1"/README.html "$1"/samples/README.html "$1"/samples/dispersion/README.html; do
+    sed -i -E 's|href="(\.\./)*([^":]*)\.md|href="\2.html|g' "$page"
+  done
+}
+
+# The program as a user gets it, and nothing that an older build has left there.
+install_program() { # folder
+  rm -rf "$1"
+  cmake --install "$build/windows" --prefix "$1" --strip
+  render_pages "$1"
+}
+
+build_program() {
+  stage "Cross-building the wizard and the engine for Windows" build-windows \
+    cross_build KorvenTallyWizard korventally
+  stage "Putting them into dist/KorvenTally/" install install_program "$installation"
 }
 
 # A folder as a program under Wine names it.
