@@ -60,12 +60,12 @@ make_installer() { # copy, version, installer
     -DTIME_HIGH="$high" -DTIME_LOW="$low" resources/installer/installer.nsi
 }
 
-# Both, from the program in a folder, with their sums.
+# Both, from the program in a folder, with their sums; none of an earlier package is left.
 make_package() { # program, version, folder
   local name=KorvenTally-$2 copy=$packing/KorvenTally-$2
   mkdir -p "$3"
-  copy_for_package "$1" "$copy"
-  make_zip "$copy" "$3/$name.zip"
-  make_installer "$copy" "$2" "$3/$name-setup.exe"
-  (cd "$3" && sha256sum "$name.zip" "$name-setup.exe" >SHA256SUMS)
+  rm -f "$3"/KorvenTally-*.zip "$3"/KorvenTally-*-setup.exe "$3/SHA256SUMS"
+  copy_for_package "$1" "$copy" && make_zip "$copy" "$3/$name.zip" &&
+    make_installer "$copy" "$2" "$3/$name-setup.exe" &&
+    (cd "$3" && sha256sum "$name.zip" "$name-setup.exe" >SHA256SUMS)
 }
