@@ -37,11 +37,11 @@ VIAddVersionKey LegalCopyright ""
 
 !define MUI_ICON "${ROOT}/resources/images/korventally.ico"
 !define MUI_UNICON "${MUI_ICON}"
-!define MUI_COMPONENTSPAGE_SMALLDESC
 !define MUI_COMPONENTSPAGE_TEXT_TOP "Setup puts the programs, the guide and a sample study into a \
   folder of your own. It needs no administrator's rights and changes nothing for other users."
 !define MUI_DIRECTORYPAGE_TEXT_TOP "Where shall KorvenTally go? A version that is installed already \
   is replaced. Files of your own in its folder stay."
+!define MUI_WELCOMEFINISHPAGE_BITMAP "${ROOT}/resources/images/installer.bmp"
 !define MUI_FINISHPAGE_TITLE "KorvenTally ${VERSION} is installed"
 !define MUI_FINISHPAGE_TEXT "The start menu has entries for the program and its guide. A first case \
   with the sample study takes five minutes."
@@ -189,7 +189,7 @@ SectionEnd
 
 LangString ABOUT_MAIN 1033 "The wizard, the engine, the guide and a sample study."
 LangString ABOUT_OPEN 1033 "Adds $\"Open with KorvenTally$\" to the menu of the right mouse button on \
-  .inp files. What a double click on them does stays as it is."
+  .inp files. A double click does what it did before."
 !insertmacro MUI_FUNCTION_DESCRIPTION_BEGIN
   !insertmacro MUI_DESCRIPTION_TEXT ${MAIN} $(ABOUT_MAIN)
   !insertmacro MUI_DESCRIPTION_TEXT ${OPEN} $(ABOUT_OPEN)
