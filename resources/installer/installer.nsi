@@ -17,7 +17,8 @@ XPStyle on
 
 !define WIZARD "KorvenTallyWizard.exe"
 !define UNINSTALLER "uninstall.exe"
-!define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\KorvenTally"
+!define PROGRAMS_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall"
+!define UNINSTALL_KEY "${PROGRAMS_KEY}\KorvenTally"
 !define ASSOCIATIONS "Software\Classes\SystemFileAssociations"
 !define VERB "${ASSOCIATIONS}\.inp\shell\KorvenTally"
 ; Beside NSIS's own: 0, all is done; 1, the user has cancelled; 2, it gave up.
@@ -225,4 +226,5 @@ Section "Uninstall"
   !include "${LISTS}/folders.nsh"
   RMDir "$LOCALAPPDATA\Programs"
   DeleteRegKey HKCU "${UNINSTALL_KEY}"
+  DeleteRegKey /ifempty HKCU "${PROGRAMS_KEY}"
 SectionEnd

@@ -88,6 +88,10 @@ def expect_unchanged(but=()):
     expect_same(registry(), keys, "registry")
 
 
+def default_places():
+    return DRIVE.glob("users/*/AppData/Local/Programs/KorvenTally")
+
+
 def menus():
     return DRIVE.glob("users/*/AppData/Roaming/*/Windows/Start Menu/Programs/KorvenTally")
 
@@ -120,7 +124,7 @@ def clean():
     """What an earlier, broken run may have left."""
     for folder in (PLACE.parent, *DRIVE.glob("users/*/AppData/Local/Programs"), *menus()):
         shutil.rmtree(folder, ignore_errors=True)
-    for key in (UNINSTALL, VERBS.split(r"\.inp")[0]):
+    for key in (UNINSTALL.rpartition("\\")[0], VERBS.split(r"\.inp")[0]):
         wine("reg", "delete", key, "/f")
 
 
@@ -129,20 +133,22 @@ def default():
     clean()
     remember()
     assert set_up(NEW) == 0
-    expect_installed(next(DRIVE.glob("users/*/AppData/Local/Programs/KorvenTally")), NEW.name.split("-")[1])
+    expect_installed(next(default_places()), NEW.name.split("-")[1])
     assert value(COMMAND) is None, "a verb that nobody chose"
     uninstall()
     expect_unchanged()
 
 
 def old():
-    """An older version, its verb beside that of another program, and what the user then adds."""
+    """An older version, its verb beside that of another program, and what the user then adds. It takes
+    the place of the one in another folder."""
     wine("reg", "add", VERBS + r"\Other", "/ve", "/d", "Of another program", "/f")
     PLACE.parent.mkdir(exist_ok=True)
     remember()
+    assert set_up(NEW) == 0
     assert set_up(OLD, "/CONTROLFILES /D=" + WINDOWS_PLACE.replace("&", "^&")) == 0
     assert value(COMMAND) == f'"{WIZARD}" "%1"', value(COMMAND)
-    assert (PLACE / "samples/gone.txt").exists()
+    assert (PLACE / "samples/gone.txt").exists() and not list(default_places())
     for name, content in (ADDED | {"korventally.exe": OWN_ENGINE}).items():
         (PLACE / name).parent.mkdir(exist_ok=True)
         (PLACE / name).write_bytes(content)
