@@ -57,7 +57,7 @@ make_installer() { # copy, version, installer
   read -r high low <<<"$(windows_time "$(package_time)")"
   SOURCE_DATE_EPOCH=$(package_time) makensis -NOCONFIG -WX -V2 -DROOT="$root" -DSTAGE="$1" -DLISTS="$lists" \
     -DVERSION="$2" -DOUTPUT="$3" -DSIZE="$(du -sk --apparent-size "$1" | cut -f1)" \
-    -DTIME_HIGH="$high" -DTIME_LOW="$low" resources/installer/installer.nsi
+    -DTIME_HIGH="$high" -DTIME_LOW="$low" "$root/resources/installer/installer.nsi"
 }
 
 # Both, from the program in a folder, with their sums; none of an earlier package is left.

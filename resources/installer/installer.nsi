@@ -10,6 +10,8 @@ ManifestDPIAware true
 ManifestSupportedOS all
 AllowSkipFiles off
 XPStyle on
+; Only what is installed keeps its time, not what the pages show: that has the time of a checkout.
+SetDateSave off
 
 !include "MUI2.nsh"
 !include "FileFunc.nsh"
@@ -172,9 +174,11 @@ Section "KorvenTally" MAIN
   WriteRegDWORD HKCU "${UNINSTALL_KEY}" "EstimatedSize" ${SIZE}
   WriteRegDWORD HKCU "${UNINSTALL_KEY}" "NoModify" 1
   WriteRegDWORD HKCU "${UNINSTALL_KEY}" "NoRepair" 1
+  SetDateSave on
   !define EACH Put
   !include "${LISTS}/files.nsh"
   !undef EACH
+  SetDateSave off
   SetOutPath "$INSTDIR"
   CreateDirectory "$SMPROGRAMS\KorvenTally"
   CreateShortcut "$SMPROGRAMS\KorvenTally\KorvenTally.lnk" "$INSTDIR\${WIZARD}"
