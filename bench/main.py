@@ -27,7 +27,7 @@ PARTS = {"start": start, "steps": steps, "scan": scan, "run": runs, "engine": en
 
 def version(*command):
     """The first line of what a program says of itself."""
-    output = subprocess.run(command, check=True, stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
+    output = subprocess.run(command, check=True, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
                             stdin=subprocess.DEVNULL, timeout=60)
     return output.stdout.decode().splitlines()[0]
 
@@ -42,7 +42,7 @@ def machine(load):
         ("memory", "%.0f GB" % memory),
         ("load before the start", "%.2f (1 minute), %.2f (5 minutes)" % load[:2]),
         ("system", platform.freedesktop_os_release()["PRETTY_NAME"] + ", Linux " +
-         platform.release()),
+         re.match(r"[0-9.]*", platform.release()).group()),
         ("Wine", version("wine", "--version")),
         ("compilers", version("x86_64-w64-mingw32-g++-posix", "--version") + "; " +
          version("g++", "--version")),
@@ -52,19 +52,18 @@ def machine(load):
     ]
 
 
-INTRODUCTION = """# Performance
-
-This page is written by `scripts/bench`, one command that measures everything below in one run; nothing
-in it is written by hand. `scripts/bench PART` measures one part and only shows it (%s).
-Every figure is a median of several runs, and programs that are held against each other ran in turns.
-"MB/s per core" are megabytes per second that a core was busy, the system's share included.
-"""
+INTRODUCTION = (
+    "This page is written by `scripts/bench`, one command that measures everything below in one run; "
+    "nothing in it is written by hand. `scripts/bench PART` measures one part again and only shows "
+    "it. Figures are medians of several runs, and programs that are held against each other ran in "
+    "turns. \"MB/s per core\" are megabytes per second that a core was busy, the system's share "
+    "included. The programs of awk and Python stand in `bench/engine.py` and `bench/imports.py`.")
 
 
 def write_page(bench, begun, took, load):
-    lines = [INTRODUCTION % ", ".join("`%s`" % part for part in PARTS)]
+    lines = ["# Performance\n", measure.wrapped(INTRODUCTION) + "\n"]
     lines.append(measure.table(["", ""], [("measured", begun), ("took", "%.0f minutes" % (took / 60)),
-                                          *machine(load)]))
+                                          *((name, "`%s`" % value) for name, value in machine(load))]))
     met = sum(aim[-1] == "met" for aim in bench.page.aims)
     lines.append("## Aims\n\n%d of %d are met.\n" % (met, len(bench.page.aims)))
     lines.append(measure.table(["What", "at most", "measured", ""], bench.page.aims))
@@ -81,6 +80,7 @@ def main():
     bench = measure.Bench(root)
     for part in PARTS if chosen == ["all"] else chosen:
         print("--- %s, after %.0f s" % (part, time.monotonic() - clock), flush=True)
+        bench.page.part = part
         PARTS[part].measure(bench)
     if chosen == ["all"]:
         write_page(bench, begun, time.monotonic() - clock, load)

@@ -76,18 +76,23 @@ def table(heads, rows):
     return "\n".join(lines) + "\n"
 
 
+def wrapped(text):
+    return textwrap.fill(text, WIDTH, break_long_words=False, break_on_hyphens=False)
+
+
 class Page:
     """Collects the sections of docs/performance.md, and what became of each aim."""
 
     def __init__(self):
         self.parts, self.aims = [], []
+        self.part = ""  # as the command line names what is measured
 
     def heading(self, text):
-        self.parts.append("## %s\n" % text)
-        self.tell(text)
+        self.add("## %s" % text)
+        self.add("    scripts/bench %s" % self.part)
 
     def say(self, text):
-        self.add(textwrap.fill(text, WIDTH, break_long_words=False, break_on_hyphens=False))
+        self.add(wrapped(text))
 
     def table(self, heads, rows):
         self.add(table(heads, rows).rstrip("\n"))

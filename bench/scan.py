@@ -53,7 +53,7 @@ def measure(bench):
     page.say("The wizard's own reading under Wine, in its process, of a file in the system's cache; "
              "`grep -cx` and `wc -l` on Linux read the same file in turns with it. Milliseconds, "
              "medians of %d: \"busy\" is what a processor was busy, the system's share included, "
-             "and for grep and wc the start of the process. The longest that an event had to wait "
+             "and for `grep` and `wc` the start of the process. The longest that an event had to wait "
              "meanwhile is the worst of all runs, with a second thread that always has one; peak "
              "memory is that of the whole process." % RUNS)
     page.table(["File", "wizard, clock", "wizard, busy", "`grep -cx`, busy", "`wc -l`, busy",

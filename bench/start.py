@@ -1,10 +1,10 @@
 """From the start of the program until its first window waits for the user."""
 import os
-import re
 import subprocess
 import sys
 
 from measure import median, spread, windows_path
+from server_trace import trace
 
 NAMES = ["the wizard", "an empty window", "Wine's notepad"]
 QUIET_RUNS, BUSY_RUNS = 11, 7
@@ -25,50 +25,23 @@ def starts(bench, runs):
 
 
 def busy_starts(bench):
-    """The same beside a process for each core that does nothing but compute."""
-    burners = [subprocess.Popen([sys.executable, "-c", "while True: pass"])
-               for _ in range(os.cpu_count())]
+    """The same beside a process for each core that does nothing but compute. They end by themselves
+    if this one is killed."""
+    command = ["timeout", "120", sys.executable, "-c", "while True: pass"]
+    burners = [subprocess.Popen(command) for _ in range(os.cpu_count())]
     try:
         return starts(bench, BUSY_RUNS)
     finally:
         for burner in burners:
-            burner.kill()
+            burner.terminate()
             burner.wait()
 
 
 def requests(bench):
-    """How many requests each program's window thread makes of Wine's server until then."""
-    def server(*arguments, **options):
-        subprocess.run(["wineserver", *arguments], check=False, timeout=60, **options)
-    server("-k")
-    server("-w")
-    with bench.scratch() as scratch:
-        trace = os.path.join(scratch, "trace")
-        with open(trace, "wb") as out:
-            tracing = subprocess.Popen(["wineserver", "-f", "-d", "-p"], stderr=out)
-            try:
-                lines = bench.wine(bench.windows_tool("start_timer.exe"), 2, *programs(bench))
-            finally:
-                server("-k")
-                tracing.wait(timeout=60)
-        counts = [0] * len(NAMES)
-        with open(trace, encoding="latin-1") as calls:
-            for line in lines:
-                count_until_shown(calls, counts, int(line[0]), "%04x" % int(line[4], 16))
-    server("-p")
-    return counts
-
-
-def count_until_shown(calls, counts, program, thread):
-    """Reads on in a trace up to the end of the next start. The second start counts."""
-    call = re.compile(thread + r": [a-z_]+\( ")
-    begun, counts[program] = False, 0
-    for line in calls:
-        if 'L"before the start"' in line:
-            begun = True
-        elif 'L"behind the start"' in line:
-            return
-        counts[program] += begun and call.match(line) is not None
+    """How many each program's window thread has made of Wine's server when it is idle."""
+    lines, spans = trace(bench, bench.windows_tool("start_timer.exe"), 2, *programs(bench))
+    threads = ["%04x" % int(line[4], 16) for line in lines]
+    return [of[thread] for thread, (_, of) in zip(threads, spans)][len(NAMES):]
 
 
 def measure(bench):
@@ -78,15 +51,15 @@ def measure(bench):
     page.say("From the start of the process until its window is shown, everything in it is painted "
              "and it waits for the user, milliseconds: median of %d starts (least to most), the "
              "programs in turns, on a desktop that is there already. \"Busy\" is beside a process "
-             "for each core that only computes, %d starts. Memory is the peak working set (VmHWM) "
-             "and what is the process's own then (RssAnon), MB. Requests are those that the "
+             "for each core that only computes, %d starts. Memory is the peak working set (`VmHWM`) "
+             "and what is the process's own then (`RssAnon`), MB. Requests are those that the "
              "window's thread has made of Wine's server up to then." % (QUIET_RUNS, BUSY_RUNS))
     page.table(["Program", "quiet, ms", "busy, ms", "peak, MB", "own, MB", "requests"],
                [(name, spread(quiet[i][0]), spread(loaded[i][0]), spread(quiet[i][1]),
                  spread(quiet[i][2]), "{:,}".format(asked[i])) for i, name in enumerate(NAMES)])
     for name, seen in (("", quiet), (", busy", loaded)):
         # Each start against the one of notepad in the same turn.
-        page.aim("start against notepad's" + name,
+        page.aim("start against that of notepad" + name,
                  median([own / other for own, other in zip(seen[0][0], seen[2][0])]), 1.25, "times")
-    page.aim("peak memory against notepad's", median(quiet[0][1]) / median(quiet[2][1]), 1, "times")
+    page.aim("peak memory against that of notepad", median(quiet[0][1]) / median(quiet[2][1]), 1, "times")
     page.aim("requests of Wine's server", asked[0], 4000)

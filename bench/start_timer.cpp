@@ -2,8 +2,7 @@
 //
 // Starts each program in turns, waits for its first window, and ends it. A line for each start:
 // the program's number, milliseconds from its start until the window is shown and the program has
-// painted it and waits for the user, peak and private memory in bytes, the window's thread. Two
-// calls that no program makes stand before and behind the start in a trace of Wine's server.
+// painted it and waits for the user, peak and private memory in bytes, the window's thread.
 #include <windows.h>
 // Needs the types of the header above.
 #include <psapi.h>
@@ -16,13 +15,13 @@
 #include <stdexcept>
 #include <string>
 
+#include "bench/mark.h"
+
 namespace {
 
-constexpr DWORD kLongest = 60000;
+namespace bench = korventally::bench;
 
-void mark(const wchar_t* what) {
-  if (HANDLE none = OpenEventW(SYNCHRONIZE, FALSE, what)) CloseHandle(none);
-}
+constexpr DWORD kLongest = 60000;
 
 struct Search {
   DWORD process;
@@ -84,7 +83,7 @@ PROCESS_INFORMATION start(std::wstring path) {
 }
 
 void measure(int number, const wchar_t* path) {
-  mark(L"before the start");
+  bench::markBegin();
   const auto begin = std::chrono::steady_clock::now();
   const PROCESS_INFORMATION program = start(path);
   WaitForInputIdle(program.hProcess, kLongest);
@@ -92,7 +91,7 @@ void measure(int number, const wchar_t* path) {
   awaitPainting(window);
   SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_NORMAL, kLongest, nullptr);
   const std::chrono::duration<double, std::milli> passed = std::chrono::steady_clock::now() - begin;
-  mark(L"behind the start");
+  bench::markEnd();
   PROCESS_MEMORY_COUNTERS memory{};
   GetProcessMemoryInfo(program.hProcess, &memory, sizeof memory);
   std::printf("%d %.1f %llu %llu %lx\n", number, passed.count(),

@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "bench/mark.h"
 #include "platform/application.h"
 #include "platform/control.h"
 #include "platform/events.h"
@@ -47,11 +48,14 @@ Milliseconds clickAndSettle(const Control& control) {
   RECT area;
   GetClientRect(window, &area);
   const LPARAM centre = MAKELPARAM(area.right / 2, area.bottom / 2);
+  markBegin();
   const auto begin = Clock::now();
   PostMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, centre);
   PostMessageW(window, WM_LBUTTONUP, 0, centre);
   settle();
-  return Clock::now() - begin;
+  const Milliseconds took = Clock::now() - begin;
+  markEnd();
+  return took;
 }
 
 }  // namespace korventally::bench
