@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "run/verdict.h"
@@ -29,16 +30,23 @@ std::optional<Verdict> lastVerdictIn(std::string_view file) {
 }  // namespace
 
 void listFile(std::string_view bytes) {
-  bytes = bytes.substr(0, 300);
+  bytes = bytes.substr(0, 100);
   const std::optional<Verdict> expected = lastVerdictIn(bytes);
+  const char* const promise = "the last line that is a verdict, in any pieces and at any place";
   for (std::size_t chunk = bytes.size(); chunk > 0; --chunk) {
     VerdictScanner scanner;
     for (std::size_t fed = 0; fed < bytes.size(); fed += chunk) {
       scanner.feed(bytes.substr(fed, chunk));
       const std::string_view soFar = bytes.substr(0, fed + chunk);
-      if (chunk == 1) require(scanner.verdict() == lastVerdictIn(soFar), "so far as if all");
+      require(chunk > 1 || scanner.verdict() == lastVerdictIn(soFar), "so far as if all");
     }
-    require(scanner.verdict() == expected, "the last line that is a verdict, in any pieces");
+    require(scanner.verdict() == expected, promise);
+  }
+  // Complete lines are searched in blocks of 256 bytes: every byte stands at the end of one.
+  for (std::size_t before = 256 - bytes.size(); before <= 256; ++before) {
+    VerdictScanner scanner;
+    scanner.feed(std::string(before, '\n').append(bytes));
+    require(scanner.verdict() == expected, promise);
   }
 }
 
