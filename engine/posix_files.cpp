@@ -13,6 +13,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <iterator>
 #include <string>
 #include <string_view>
@@ -120,15 +121,14 @@ std::vector<NativePath> filesIn(const NativePath& folder) {
 }
 
 NativePath fullName(const NativePath& path) {
-  NativePath full = path;
-  if (!path.is_absolute()) {
+  std::filesystem::path full = path.native();
+  if (!full.is_absolute()) {
     char* const here = ::getcwd(nullptr, 0);
     if (here == nullptr) fail(path, "found", errno);
-    full = NativePath(here) / path;
+    full = here / full;
     std::free(here);
   }
-  full = full.lexically_normal();
-  return full.has_filename() ? full : full.parent_path();
+  return NativePath(full.lexically_normal()).asName();
 }
 
 InputFile::InputFile(const NativePath& path) : path_(path) {

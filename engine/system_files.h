@@ -7,16 +7,13 @@
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
-#include <filesystem>
 #include <string>
 #include <string_view>
 #include <vector>
 
-namespace korventally::engine {
+#include "engine/native_path.h"
 
-/// A path in the system's own characters. Only a container here: none of its narrow conversions
-/// are used, because on Windows they follow the C runtime's locale instead of the code page.
-using NativePath = std::filesystem::path;
+namespace korventally::engine {
 
 /// The path that a control file means: on Windows its bytes are in the ANSI code page; elsewhere
 /// bytes are bytes. Throws Fault when the bytes are no text in that code page.

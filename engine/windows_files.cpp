@@ -223,8 +223,7 @@ NativePath fullName(const NativePath& path) {
       GetFullPathNameW(path.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr);
   if (size == 0 || size >= full.size()) fail(path, "found", GetLastError());
   full.resize(size);
-  const NativePath name(full);
-  return name.has_filename() ? name : name.parent_path();
+  return NativePath(full).asName();
 }
 
 InputFile::InputFile(const NativePath& path) : path_(path) {

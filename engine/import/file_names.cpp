@@ -46,8 +46,9 @@ std::vector<NativePath> filesNamed(const NativePath& name) {
   const bool isPattern = letters.find(kAny) != letters.npos || letters.find(kOne) != letters.npos;
   if (!isPattern || fileExists(name)) return {name};
   std::vector<NativePath> found;
-  for (const NativePath& file : filesIn(name.has_parent_path() ? name.parent_path() : ".")) {
-    if (fits(file.native(), letters)) found.push_back(name.parent_path() / file);
+  const NativePath folder = name.folder();
+  for (const NativePath& file : filesIn(folder.empty() ? pathFromText(".") : folder)) {
+    if (fits(file.native(), letters)) found.push_back(folder / file);
   }
   if (found.empty()) throw Fault("There is no file that fits " + textFromPath(name) + ".");
   return found;

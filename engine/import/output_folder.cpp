@@ -42,7 +42,8 @@ OutputFolder::~OutputFolder() {
 
 NativePath OutputFolder::newPart() {
   const std::lock_guard lock(mutex_);
-  parts_.push_back(path_ / ("import_" + token_ + "_" + std::to_string(parts_.size()) + ".part"));
+  const std::string number = std::to_string(parts_.size());
+  parts_.push_back(path_ / pathFromText("import_" + token_ + "_" + number + ".part"));
   return parts_.back();
 }
 
@@ -80,8 +81,8 @@ void OutputFolder::commit() {
 // A control file has no room for a mark; the report beside it has its checksum.
 bool OutputFolder::isOwn(const NativePath& path) const {
   if (beginningOf(path, kImportMark.size()) == kImportMark) return true;
-  const NativePath report = path_ / kImportReport;
-  if (path.filename() != NativePath(kImportCase) || !fileExists(report)) return false;
+  const NativePath report = path_ / pathFromText(kImportReport);
+  if (path.filename() != pathFromText(kImportCase) || !fileExists(report)) return false;
   const std::string text = beginningOf(report, kLongestReport);
   return text.starts_with(kImportMark) &&
          text.find(checksum(beginningOf(path, kLongestReport))) != text.npos;

@@ -20,13 +20,13 @@ std::string withoutFolder(std::string text, const std::string& folder) {
 }  // namespace
 
 std::string Imports::run(const std::vector<std::string>& arguments) {
-  std::vector<NativePath> all = {"--out", study_.path(folder)};
+  std::vector<NativePath> all = {pathFromText("--out"), study_.path(folder)};
   for (const std::string& argument : arguments) {
     const bool own = argument.starts_with('@');
     if (argument.starts_with('=')) {
-      all.emplace_back(std::string(KORVENTALLY_TEST_DATA) + "/" + argument.substr(1));
+      all.push_back(pathFromText(std::string(KORVENTALLY_TEST_DATA) + "/" + argument.substr(1)));
     } else {
-      all.push_back(own ? study_.path(argument.substr(1)) : NativePath(argument));
+      all.push_back(own ? study_.path(argument.substr(1)) : pathFromText(argument));
     }
   }
   try {

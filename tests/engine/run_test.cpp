@@ -46,8 +46,8 @@ TEST(Run, NamesTheControlLineOfAFileThatCannotBeOpened) {
     for (const bool folder : {false, true}) {
       Study study;
       const std::string path = study.line(line);
-      std::filesystem::remove(pathFromText(path));
-      if (folder) std::filesystem::create_directory(pathFromText(path));
+      std::filesystem::remove(pathFromText(path).native());
+      if (folder) std::filesystem::create_directory(pathFromText(path).native());
       const Result result = study.run();
       EXPECT_EQ(result.outcome, Outcome::kFailed);
       const std::string start = "Line " + std::to_string(line) + " of the control file: The file " +
@@ -96,7 +96,7 @@ TEST(Run, SeesThroughOtherSpellingsOfTheSameFile) {
 // Copies a study's files into the folder, points the control file at them and runs it there.
 Result runInFolder(Study& study, const std::filesystem::path& folder) {
   for (const std::size_t line : {1u, 6u, 8u, 10u, 17u}) {
-    const std::filesystem::path from = pathFromText(study.line(line));
+    const std::filesystem::path from = pathFromText(study.line(line)).native();
     const std::filesystem::path to = folder / from.filename();
     if (line != 1) std::filesystem::copy_file(from, to);
     study.line(line) = textFromPath(to);

@@ -75,16 +75,17 @@ engine::ImportOptions chosenOptions(std::string_view& bytes) {
 
 void requireImport(const engine::ImportOptions& options, double (*total)(std::string_view bytes),
                    std::string_view bytes) {
-  fs::remove_all(options.folder);
+  const fs::path folder = options.folder.native();
+  fs::remove_all(folder);
   try {
     static_cast<void>(engine::importModel(options, {}));
   } catch (const engine::Fault&) {
-    require(!fs::exists(options.folder), "an import that fails leaves nothing behind");
+    require(!fs::exists(folder), "an import that fails leaves nothing behind");
     return;
   }
   double sum = 0;
   try {
-    sum = readResults(options.folder);
+    sum = readResults(folder);
   } catch (const engine::Fault& fault) {
     throw Broken(std::string("the engine reads what the import wrote: ") + fault.what());
   }
