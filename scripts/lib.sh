@@ -105,7 +105,7 @@ render_pages() { # folder of the program
 # The program as a user gets it, and nothing that an older build has left there.
 install_program() { # folder
   rm -rf "$1"
-  cmake --install "$build/windows" --prefix "$1" --strip &&
+  cmake --install "$build/windows" --prefix "$1" &&
     render_pages "$1"
 }
 
