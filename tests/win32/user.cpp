@@ -4,6 +4,8 @@
 // Needs the types of the header above.
 #include <shlobj.h>
 
+#include <map>
+
 #include "driver/input.h"
 #include "platform/events.h"
 #include "platform/win32/system/text.h"
@@ -57,28 +59,12 @@ void setShift(bool down) {
 }
 
 WPARAM codeOf(Key key) {
-  switch (key) {
-    case Key::kTab:
-    case Key::kShiftTab:
-      return VK_TAB;
-    case Key::kEnter:
-      return VK_RETURN;
-    case Key::kBackspace:
-      return VK_BACK;
-    case Key::kEscape:
-      return VK_ESCAPE;
-    case Key::kSpace:
-      return VK_SPACE;
-    case Key::kUp:
-      return VK_UP;
-    case Key::kDown:
-      return VK_DOWN;
-    case Key::kLeft:
-      return VK_LEFT;
-    case Key::kRight:
-      return VK_RIGHT;
-  }
-  return 0;
+  static const std::map<Key, WPARAM> kCodes{{Key::kTab, VK_TAB},       {Key::kShiftTab, VK_TAB},
+                                            {Key::kEnter, VK_RETURN},  {Key::kUp, VK_UP},
+                                            {Key::kEscape, VK_ESCAPE}, {Key::kSpace, VK_SPACE},
+                                            {Key::kDown, VK_DOWN},     {Key::kBackspace, VK_BACK},
+                                            {Key::kLeft, VK_LEFT},     {Key::kRight, VK_RIGHT}};
+  return kCodes.at(key);
 }
 
 /// Files as Explorer hands them over: a header, then the paths, each ended by a zero, then another.

@@ -17,6 +17,14 @@ class OutputFile : public StudyTest {
       EXPECT_TRUE(w.outputFile.isOpen());
     });
   }
+  using Fields = std::vector<std::string>;
+  Fields captured() const {
+    const AnalysisCase& c = theCase;
+    return {c.WorkDir,           c.ListFile,      c.AreaClass, c.Standard,   c.Species,
+            c.AveragingHours,    c.StandardLimit, c.SilLimit,  c.Rank1Flag,  c.ReceptorFormat,
+            c.AmbientBackground, c.ReceptorFile,  c.StartYear, c.StartMonth, c.StartDay,
+            c.StartHour,         c.RunLength};
+  }
   static constexpr const char* kOverwrite =
       "The selected output filename already exists. Do you wish to overwrite it?";
   static constexpr const char* kInput =
@@ -25,23 +33,9 @@ class OutputFile : public StudyTest {
 
 TEST_F(OutputFile, CapturesTheWindowAsItStands) {
   capture([](frmKORVENTALLY&) {});
-  EXPECT_EQ(theCase.WorkDir, kStudy);
-  EXPECT_EQ(theCase.ListFile, "korventally.lst");
-  EXPECT_EQ(theCase.AreaClass, "Class I");
-  EXPECT_EQ(theCase.Standard, "NAAQS");
-  EXPECT_EQ(theCase.Species, "SO2");
-  EXPECT_EQ(theCase.AveragingHours, "3");
-  EXPECT_EQ(theCase.AmbientBackground, "0");
-  EXPECT_EQ(theCase.ReceptorFormat, "2");
-  EXPECT_EQ(theCase.Rank1Flag, "F");
-  EXPECT_EQ(theCase.ReceptorFile, kStudy + "recept.dat");
-  EXPECT_EQ(theCase.StartYear, "2009");
-  EXPECT_EQ(theCase.StartMonth, "01");
-  EXPECT_EQ(theCase.StartDay, "02");
-  EXPECT_EQ(theCase.StartHour, "03");
-  EXPECT_EQ(theCase.RunLength, "8760");
-  EXPECT_EQ(theCase.StandardLimit, "1300.0");
-  EXPECT_EQ(theCase.SilLimit, "1.0");
+  EXPECT_EQ(captured(),
+            (Fields{kStudy, "korventally.lst", "Class I", "NAAQS", "SO2", "3", "1300.0", "1.0", "F",
+                    "2", "0", kStudy + "recept.dat", "2009", "01", "02", "03", "8760"}));
 }
 
 TEST_F(OutputFile, CapturesTheOtherChoiceOfEveryOption) {
@@ -56,16 +50,9 @@ TEST_F(OutputFile, CapturesTheOtherChoiceOfEveryOption) {
     w.processingInfo.optRank1_Exclude.select();
     w.outputFile.txtLSTFilename.setText("  my list.lst ");
   });
-  EXPECT_EQ(theCase.AreaClass, "Class II");
-  EXPECT_EQ(theCase.Standard, "PSD");
-  EXPECT_EQ(theCase.Species, "PM10");
-  EXPECT_EQ(theCase.AveragingHours, "24");
-  EXPECT_EQ(theCase.AmbientBackground, " 12.5 ");
-  EXPECT_EQ(theCase.ReceptorFormat, "1");
-  EXPECT_EQ(theCase.Rank1Flag, "T");
-  EXPECT_EQ(theCase.ListFile, "  my list.lst ");
-  EXPECT_EQ(theCase.StandardLimit, "30.0");
-  EXPECT_EQ(theCase.SilLimit, "5.0");
+  EXPECT_EQ(captured(),
+            (Fields{kStudy, "  my list.lst ", "Class II", "PSD", "PM10", "24", "30.0", "5.0", "T",
+                    "1", " 12.5 ", kStudy + "recept.dat", "2008", "01", "02", "03", "8760"}));
 }
 
 TEST_F(OutputFile, CountsTheHoursOfTheYear) {
