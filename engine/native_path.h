@@ -24,7 +24,7 @@ class NativePath {
   NativePath(const value_type* text) : text_(text) {}
   /// From a path of the standard library.
   template <typename Path>
-    requires requires(const Path& path) { Text(path.native()); }
+  requires requires(const Path& path) { Text(path.native()); }
   NativePath(const Path& path) : text_(path.native()) {}
 
   const Text& native() const { return text_; }
