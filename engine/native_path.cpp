@@ -5,7 +5,7 @@
 namespace korventally::engine {
 namespace {
 
-using Letter = NativePath::value_type;
+using Letter = NativePath::Letter;
 
 #ifdef _WIN32
 constexpr Letter kSeparator = L'\\';

@@ -13,22 +13,22 @@ namespace korventally::engine {
 class NativePath {
  public:
 #ifdef _WIN32
-  using value_type = wchar_t;
+  using Letter = wchar_t;
 #else
-  using value_type = char;
+  using Letter = char;
 #endif
-  using Text = std::basic_string<value_type>;
+  using Text = std::basic_string<Letter>;
 
   NativePath() = default;
   NativePath(Text text) : text_(std::move(text)) {}
-  NativePath(const value_type* text) : text_(text) {}
+  NativePath(const Letter* text) : text_(text) {}
   /// From a path of the standard library.
   template <typename Path>
   requires requires(const Path& path) { Text(path.native()); }
   NativePath(const Path& path) : text_(path.native()) {}
 
   const Text& native() const { return text_; }
-  const value_type* c_str() const { return text_.c_str(); }
+  const Letter* c_str() const { return text_.c_str(); }
   bool empty() const { return text_.empty(); }
 
   /// What follows the last separator, or the drive.

@@ -11,7 +11,7 @@
 #include <string_view>
 #include <vector>
 
-#include "engine/native_path.h"
+#include "engine/native_path.h"  // IWYU pragma: export
 
 namespace korventally::engine {
 

@@ -9,7 +9,7 @@
 namespace korventally::engine {
 namespace {
 
-using Letter = NativePath::value_type;
+using Letter = NativePath::Letter;
 using Letters = std::basic_string_view<Letter>;
 
 constexpr Letter kAny = '*', kOne = '?';

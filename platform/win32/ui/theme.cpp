@@ -6,6 +6,8 @@ namespace korventally::win32 {
 namespace {
 
 HTHEME openButtonTheme(int dpi) {
+  // Also loads the library, which is then asked for a function that an older one lacks.
+  if (!IsAppThemed()) return nullptr;
   using OpenType = HTHEME(WINAPI*)(HWND, LPCWSTR, UINT);
   const auto open = systemFunction<OpenType>(L"uxtheme", "OpenThemeDataForDpi");
   return open ? open(nullptr, L"BUTTON", static_cast<UINT>(dpi))
