@@ -105,9 +105,12 @@ class Page:
         """An aim is met where the value is at most so much."""
         verdict = "met" if value <= most else "missed"
         unit = unit and " " + unit
-        self.aims.append((what, figure(most) + unit, figure(value) + unit, verdict))
+        shown = figure(value)
+        if value > most and shown == figure(most):
+            shown = "%.4f" % value  # missed by so little that it needs to be seen
+        self.aims.append((what, figure(most) + unit, shown + unit, verdict))
         self.say("Aim: %s at most %s%s. **%s**: %s%s." % (
-            what, figure(most), unit, verdict.capitalize(), figure(value), unit))
+            what, figure(most), unit, verdict.capitalize(), shown, unit))
 
     @staticmethod
     def tell(text):
