@@ -39,17 +39,37 @@ void send(std::vector<INPUT> inputs) {
 /// The mouse moves in 65536ths of the screen; this is the middle of a pixel.
 LONG share(LONG pixel, int size) { return (2 * pixel + 1) * 32768 / size; }
 
-/// The display moves its own pointer after Windows', and its reports of that can put the mouse
-/// back for a moment. Once it has stayed where it is, all of them have arrived.
-bool restsAt(POINT place) {
+/// Whether it is so, and stays so for as long as the display may take to report what it knows.
+bool staysSo(const std::function<bool()>& isSo) {
   constexpr int kLooks = 6;
   for (int look = 0; look < kLooks; ++look) {
-    POINT now;
-    if (!GetCursorPos(&now) || now.x != place.x || now.y != place.y) return false;
+    if (!isSo()) return false;
     Sleep(kPause.count());
   }
   return true;
 }
+
+/// Sends the input again until the display has put back nothing of it.
+void sendUntil(const std::function<bool()>& isSo, const INPUT& input,
+               const std::string& expectation) {
+  const auto lasts = [&] {
+    if (staysSo(isSo)) return true;
+    send({input});
+    return staysSo(isSo);
+  };
+  expectSoon(lasts, expectation);
+}
+
+/// The display moves its own pointer after Windows', and its reports of that can put the mouse
+/// back for a moment. Once it has stayed where it is, all of them have arrived.
+bool restsAt(POINT place) {
+  POINT now;
+  return GetCursorPos(&now) && now.x == place.x && now.y == place.y;
+}
+
+/// The display knows nothing of keys that were never pressed on it, and says so whenever a window
+/// comes beneath the mouse: a modifier is up again then, and the key after it comes alone.
+bool isHeld(WORD modifier) { return GetAsyncKeyState(modifier) < 0; }
 
 }  // namespace
 
@@ -70,19 +90,15 @@ void expectSoon(const std::function<bool()>& isSo, const std::string& expectatio
 void clickAt(POINT screen) {
   const LONG x = share(screen.x, GetSystemMetrics(SM_CXSCREEN));
   const LONG y = share(screen.y, GetSystemMetrics(SM_CYSCREEN));
-  const auto moved = [&] {
-    if (restsAt(screen)) return true;
-    send({mouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, x, y)});
-    return restsAt(screen);
-  };
-  expectSoon(moved, "the mouse rests where it clicks");
+  sendUntil([&] { return restsAt(screen); }, mouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, x, y),
+            "the mouse rests where it clicks");
   send({mouse(MOUSEEVENTF_LEFTDOWN), mouse(MOUSEEVENTF_LEFTUP)});
 }
 
 void pressKey(WORD code, WORD modifier) {
   std::vector<INPUT> inputs{key(code, 0, 0), key(code, 0, KEYEVENTF_KEYUP)};
   if (modifier != 0) {
-    inputs.insert(inputs.begin(), key(modifier, 0, 0));
+    sendUntil([&] { return isHeld(modifier); }, key(modifier, 0, 0), "the modifier is held");
     inputs.push_back(key(modifier, 0, KEYEVENTF_KEYUP));
   }
   send(inputs);
