@@ -127,7 +127,7 @@ display_pid=
 leave() {
   if [ -n "$own_prefix" ]; then wineserver -k 2>/dev/null || true; fi
   if [ -n "$display_pid" ]; then kill "$display_pid" 2>/dev/null || true; fi
-  jobs -p | xargs -r kill 2>/dev/null || true
+  jobs -p | sed 's/^/-/' | xargs -r kill -- 2>/dev/null || true
   own_prefix=
   display_pid=
   last_words

@@ -40,7 +40,7 @@ const std::vector<Error>& errorsOf(Operation operation) {
 constexpr int kMostCalls = 24;
 
 /// Most are worth their time where memory is watched.
-#ifdef __SANITIZE_ADDRESS__
+#ifdef KORVENTALLY_SANITIZE
 constexpr unsigned kRandomRuns = 7500;
 #else
 constexpr unsigned kRandomRuns = 1500;
