@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <string>
 
+#include "bench/case_in.h"
 #include "case/basModule.h"
 #include "limits/limits.h"
 #include "platform/headless/desktop.h"
@@ -20,31 +21,8 @@ namespace {
 constexpr std::size_t kPiece = std::size_t{256} * 1024;
 const std::string kFolder = "C:\\Study of a plant\\2009\\";
 
-AnalysisCase caseOf(std::int32_t groups) {
-  AnalysisCase theCase;
-  nameGroups(theCase);
-  theCase.WorkDir = kFolder;
-  theCase.AreaClass = kClassII;
-  theCase.Standard = kPsd;
-  theCase.Species = "SO2";
-  theCase.AveragingHours = "24";
-  theCase.AmbientBackground = "0";
-  theCase.GroupCount = groups;
-  theCase.GroupConcFiles.fill(kFolder + "hourly_concentrations.con");
-  theCase.ReceptorFormat = kGenericFormat;
-  theCase.ReceptorFile = kFolder + "receptors.dat";
-  theCase.StartYear = "2009";
-  theCase.StartMonth = theCase.StartDay = "01";
-  theCase.StartHour = "00";
-  theCase.RunLength = "8760";
-  theCase.Rank1Flag = kRank1Included;
-  theCase.ListFile = "korventally.lst";
-  DeriveLimits(theCase);
-  return theCase;
-}
-
 void controlFileLines(benchmark::State& state) {
-  const AnalysisCase theCase = caseOf(static_cast<std::int32_t>(state.range(0)));
+  const AnalysisCase theCase = caseIn(kFolder, static_cast<std::int32_t>(state.range(0)));
   for (auto _ : state) benchmark::DoNotOptimize(korventally::controlFileLines(theCase));
 }
 BENCHMARK(controlFileLines)->Arg(2)->Arg(50);
@@ -52,7 +30,7 @@ BENCHMARK(controlFileLines)->Arg(2)->Arg(50);
 void writeControlFile(benchmark::State& state) {
   Desktop desktop;
   desktop.makeFolder(kFolder);
-  basModule::analysisCase = caseOf(static_cast<std::int32_t>(state.range(0)));
+  basModule::analysisCase = caseIn(kFolder, static_cast<std::int32_t>(state.range(0)));
   for (auto _ : state) {
     if (!WriteControlFile().ok()) state.SkipWithError("the control file was not written");
   }
@@ -62,7 +40,7 @@ BENCHMARK(writeControlFile)->Arg(2)->Arg(50);
 void readControlFile(benchmark::State& state) {
   Desktop desktop;
   desktop.makeFolder(kFolder);
-  basModule::analysisCase = caseOf(static_cast<std::int32_t>(state.range(0)));
+  basModule::analysisCase = caseIn(kFolder, static_cast<std::int32_t>(state.range(0)));
   const bool written = WriteControlFile().ok();
   const std::string path = controlFilePath(basModule::analysisCase);
   for (auto _ : state) {
@@ -78,7 +56,7 @@ void capture(benchmark::State& state) {
   frmKORVENTALLY wizard;
   WizardStep* const steps[] = {&wizard.workingDirectory, &wizard.analysisType, &wizard.sourceGroups,
                                &wizard.processingInfo, &wizard.outputFile};
-  const AnalysisCase theCase = caseOf(static_cast<std::int32_t>(state.range(0)));
+  const AnalysisCase theCase = caseIn(kFolder, static_cast<std::int32_t>(state.range(0)));
   for (WizardStep* step : steps) step->fill(theCase);
   for (auto _ : state) {
     AnalysisCase captured = theCase;
@@ -91,7 +69,7 @@ void capture(benchmark::State& state) {
 BENCHMARK(capture)->Arg(2)->Arg(50);
 
 void deriveLimits(benchmark::State& state) {
-  AnalysisCase theCase = caseOf(2);
+  AnalysisCase theCase = caseIn(kFolder, 2);
   for (auto _ : state) {
     DeriveLimits(theCase);
     benchmark::DoNotOptimize(theCase);

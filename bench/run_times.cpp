@@ -1,9 +1,9 @@
 #include <cstdio>
 #include <string>
 
+#include "bench/case_in.h"
 #include "bench/window_bench.h"
 #include "case/basModule.h"
-#include "limits/limits.h"
 #include "platform/later.h"
 #include "run/control_file.h"
 #include "run/frmRunSummary.h"
@@ -11,28 +11,9 @@
 namespace korventally::bench {
 namespace {
 
-AnalysisCase caseIn(const std::string& folder) {
-  AnalysisCase theCase;
-  nameGroups(theCase);
-  theCase.WorkDir = folder;
-  theCase.AreaClass = kClassII;
-  theCase.Standard = kPsd;
-  theCase.Species = "SO2";
-  theCase.AveragingHours = "24";
-  theCase.AmbientBackground = "0";
-  theCase.GroupCount = kMostOtherGroups + kFixedGroups;
-  theCase.GroupConcFiles.fill(folder + "any.dat");
-  theCase.ReceptorFormat = kGenericFormat;
-  theCase.ReceptorFile = folder + "any.dat";
-  theCase.Rank1Flag = kRank1Included;
-  theCase.ListFile = "korventally.lst";
-  DeriveLimits(theCase);
-  return theCase;
-}
-
 /// The click returns when the run is over, because its waits are in the handler.
 void timeRun(const std::string& folder) {
-  basModule::analysisCase = caseIn(folder);
+  basModule::analysisCase = caseIn(folder, kMostOtherGroups + kFixedGroups);
   frmRunSummary summary;
   runLater("run", 0, [&] {
     summary.chkAutoOpen.setChecked(false);
