@@ -62,10 +62,12 @@ void turnAll(const Container& container) {
   }
 }
 
-/// Frames and labels, which lie around and behind others.
+/// Frames and labels, which lie around and behind others, and what Windows itself prints.
 void renameAll(const Container& container) {
   for (Control* child : container.children()) {
-    if (child->kind() == Control::Kind::kLabel) child->setText(child->text() + ".");
+    if (child->kind() == Control::Kind::kLabel || child->kind() == Control::Kind::kTextBox) {
+      child->setText(child->text() + ".");
+    }
     if (child->kind() != Control::Kind::kFrame) continue;
     child->setText(child->text() + ".");
     renameAll(static_cast<const Frame&>(*child));

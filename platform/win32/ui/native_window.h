@@ -61,6 +61,10 @@ class NativeWindow : public WindowView {
   /// Paints what has changed since the last time.
   void paintSoiled();
   void paintControl(const Control& control, HDC picture, HDC screen);
+  /// Text boxes are not in that picture: they paint themselves, with an edge that they print
+  /// nowhere.
+  void paintTextBoxes(const Container& container, HDC screen);
+  void paintTextBox(const Control& control, HDC screen);
   void contentsChanged(const Frame& frame);
   /// Leaves what lies over a control out of what is painted.
   void excludeCovered(const Control& control, HDC dc);

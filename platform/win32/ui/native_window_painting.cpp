@@ -8,6 +8,14 @@
 namespace korventally::win32 {
 namespace {
 
+/// Where a control's client area is, seen from the window that holds it.
+RECT clientWithin(HWND root, HWND control) {
+  RECT area;
+  GetClientRect(control, &area);
+  MapWindowPoints(control, root, reinterpret_cast<POINT*>(&area), 2);
+  return area;
+}
+
 /// Where a control's window is, seen from the window that holds it.
 RECT areaWithin(HWND root, HWND control) {
   RECT area;
@@ -23,6 +31,8 @@ void print(HWND control, HDC dc, const RECT& at) {
   SendMessageW(control, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc), PRF_CLIENT);
 }
 
+constexpr UINT kPainted = RDW_VALIDATE | RDW_NOERASE | RDW_NOFRAME;
+
 }  // namespace
 
 void NativeWindow::paintGround(HDC dc) {
@@ -37,12 +47,33 @@ void NativeWindow::paintAtOnce() {
   HDC screen = GetDCEx(handle_, nullptr, DCX_CACHE);  // not clipped by the controls
   if (HDC picture = stage_.buffer(screen, {area.right, area.bottom})) {
     paintGround(picture);
-    constexpr UINT kDone = RDW_VALIDATE | RDW_NOERASE | RDW_NOFRAME;
-    RedrawWindow(handle_, nullptr, nullptr, kDone | RDW_ALLCHILDREN);
+    RedrawWindow(handle_, nullptr, nullptr, kPainted | RDW_ALLCHILDREN);
     printControls(window_, picture);
     BitBlt(screen, 0, 0, area.right, area.bottom, picture, 0, 0, SRCCOPY);
+    paintTextBoxes(window_, screen);
   }
   ReleaseDC(handle_, screen);
+}
+
+void NativeWindow::paintTextBoxes(const Container& container, HDC screen) {
+  for (const Control* child : container.children()) {
+    if (!child->visible()) continue;
+    if (child->kind() == Control::Kind::kTextBox) paintTextBox(*child, screen);
+    if (child->kind() != Control::Kind::kFrame) continue;
+    paintTextBoxes(static_cast<const Frame&>(*child), screen);
+  }
+}
+
+void NativeWindow::paintTextBox(const Control& control, HDC screen) {
+  HWND window = handleOf(control);
+  if (&control == window_.focused()) {
+    // Only Windows knows whether the caret shows.
+    RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME);
+    return;
+  }
+  SendMessageW(window, WM_NCPAINT, 1, 0);  // some versions of Windows paint more than the edge
+  fill(screen, clientWithin(handle_, window), groundColor(control.backColor()));
+  if (!control.text().empty()) RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE);
 }
 
 void NativeWindow::paintSoiled() {
@@ -61,6 +92,11 @@ void NativeWindow::paintSoiled() {
 void NativeWindow::paintControl(const Control& control, HDC picture, HDC screen) {
   HWND window = handleOf(control);
   if (!IsWindowVisible(window)) return;
+  if (control.kind() == Control::Kind::kTextBox) {
+    RedrawWindow(window, nullptr, nullptr, kPainted);
+    paintTextBox(control, screen);
+    return;
+  }
   const RECT at = areaWithin(handle_, window);
   print(window, picture, at);
   const KeepDc keep(screen);
@@ -97,11 +133,7 @@ void NativeWindow::printControls(const Container& container, HDC dc) {
 void NativeWindow::printControl(const Control& control, HDC dc) {
   HWND window = handleOf(control);
   if (!(GetWindowLongW(window, GWL_STYLE) & WS_VISIBLE)) return;
-  if (control.kind() == Control::Kind::kTextBox) {
-    // Its edge is no part of what a control prints.
-    RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME);
-    return;
-  }
+  if (control.kind() == Control::Kind::kTextBox) return;
   print(window, dc, areaWithin(handle_, window));
   if (control.kind() == Control::Kind::kFrame) {
     printControls(static_cast<const Frame&>(control), dc);

@@ -33,6 +33,11 @@ std::wstring firstLine(std::wstring text) {
   return text;
 }
 
+/// The parts of painting, of which each begins by asking the system what it may paint.
+bool paints(UINT message) {
+  return message == WM_NCPAINT || message == WM_ERASEBKGND || message == WM_PAINT;
+}
+
 class NativeTextBox : public NativeControl {
  public:
   NativeTextBox(TextBox& model, const Site& site)
@@ -54,6 +59,8 @@ class NativeTextBox : public NativeControl {
     if (aspect == Aspect::kText) SendMessageW(handle(), EM_SETSEL, 0x7FFFFFFF, 0x7FFFFFFF);
   }
 
+  void lookChanged() override { stage().soil(model()); }
+
  protected:
   /// The margins are taken from the area that the text has, which is asked for anew.
   void attached() override {
@@ -63,6 +70,9 @@ class NativeTextBox : public NativeControl {
   }
 
   LRESULT onMessage(UINT message, WPARAM first, LPARAM second) override {
+    // Some versions of Windows paint on the spot what has become usable or not. It is painted with
+    // all others that have changed.
+    if (fromCode_ && paints(message)) return 0;
     switch (message) {
       case WM_CHAR:
         if (!takesCharacter(first)) return 0;

@@ -11,14 +11,11 @@ namespace {
 constexpr int kGap = 1;
 
 int lineHeight(HWND box) {
-  HDC dc = GetDC(box);
+  HDC dc = CreateCompatibleDC(nullptr);  // the screen's own would be asked of the system
   TEXTMETRICW metrics{};
-  {
-    const KeepDc keep(dc);
-    SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(box, WM_GETFONT, 0, 0)));
-    GetTextMetricsW(dc, &metrics);
-  }
-  ReleaseDC(box, dc);
+  SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(box, WM_GETFONT, 0, 0)));
+  GetTextMetricsW(dc, &metrics);
+  DeleteDC(dc);
   return metrics.tmHeight;
 }
 
@@ -41,6 +38,7 @@ void TextMargins::takeFrom(RECT& client, HWND box) {
 }
 
 void TextMargins::paint(HWND box, COLORREF ground) const {
+  if (above_ + below_ == 0) return;
   RECT window;
   GetWindowRect(box, &window);
   RECT client = clientOnScreen(box);
