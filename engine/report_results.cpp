@@ -100,9 +100,10 @@ std::vector<std::string> linesOfAverages(const Case& theCase, const Blocks& bloc
                                          const std::vector<std::string>& more) {
   std::vector<std::string> lines = {"  " + averaged(blocks) + (blocks.annual ? " (annual)" : "")};
   if (blocks.unused > 0) {
-    lines.push_back("  The last " + hoursText(blocks.unused) +
-                    " of the run fill no averaging period and " +
-                    (blocks.unused == 1 ? "is" : "are") + " not used.");
+    lines.push_back("  The last " + hoursText(blocks.unused) + " of the run " +
+                    (blocks.unused == 1 ? "fills no averaging period and is"
+                                        : "fill no averaging period and are") +
+                    " not used.");
   }
   if (theCase.background > 0) {
     lines.push_back("  The background of " + theCase.backgroundText +

@@ -77,7 +77,7 @@ TEST(Results, OfTwoReceptorsAndTwoBlocksByHand) {
         "ALL_SOURCES    1st            12.0000  A",
         "6 hours (2009-01-01 00 to 2009-01-01 05), 2 receptors"}},
       {{{14, "4"}}, {"The last 2 hours of the run fill no averaging period and are not used."}},
-      {{{14, "5"}}, {"The last 1 hour of the run fill no averaging period and is not"}},
+      {{{14, "5"}}, {"The last 1 hour of the run fills no averaging period and is not"}},
       // FACILITY averages 1.95 at A and 3 at B, where alone the total exceeds.
       {{{14, "8760"}, {15, "14"}, {19, "3.1"}, {21, "T"}},
        {"Averages judged:              2\r\n", "Exceedances:                  1 (",
