@@ -50,16 +50,13 @@ class NativeFrame : public PaintedControl {
   }
 
   void paintBorder(HDC dc, const RECT& area, const RECT& captionArea) {
-    const KeepDc keep(dc);
     TEXTMETRICW metrics;
     GetTextMetricsW(dc, &metrics);
     RECT border = area;
     border.top += metrics.tmHeight / 2;
-    if (!model().text().empty()) {
-      ExcludeClipRect(dc, captionArea.left, captionArea.top, captionArea.right, captionArea.bottom);
-    }
     SetDCBrushColor(dc, groupBorderColor());
     FrameRect(dc, &border, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+    if (!model().text().empty()) fill(dc, captionArea, groundColor(model().backColor()));
   }
 };
 

@@ -55,6 +55,11 @@ class NativeControl {
     RedrawWindow(handle_, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME);
   }
 
+  /// Paints the control, whose top-left corner is the origin, and leaves the font selected: whoever
+  /// has many painted keeps the device context once for all of them, because each change of a font
+  /// takes its time. Does nothing for a text box, which Windows paints.
+  virtual void paintOn(HDC /*dc*/) {}
+
   /// What Windows asks or tells a control's parent: WM_COMMAND, WM_NOTIFY and WM_CTLCOLOR....
   /// Whoever is a parent hands its messages on here; none when the message is not a child's.
   static std::optional<LRESULT> reflect(UINT message, WPARAM first, LPARAM second);

@@ -68,6 +68,8 @@ class NativeWindow : public WindowView {
   void contentsChanged(const Frame& frame);
   /// Leaves what lies over a control out of what is painted.
   void excludeCovered(const Control& control, HDC dc);
+  /// Paints a control where it lies in the window.
+  void print(const Control& control, HDC dc);
   void printControls(const Container& container, HDC dc);
   void printControl(const Control& control, HDC dc);
   /// Puts the keyboard where the model has it.

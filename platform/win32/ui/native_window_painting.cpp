@@ -24,13 +24,6 @@ RECT areaWithin(HWND root, HWND control) {
   return area;
 }
 
-void print(HWND control, HDC dc, const RECT& at) {
-  const KeepDc keep(dc);
-  SetViewportOrgEx(dc, at.left, at.top, nullptr);
-  IntersectClipRect(dc, 0, 0, at.right - at.left, at.bottom - at.top);
-  SendMessageW(control, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc), PRF_CLIENT);
-}
-
 constexpr UINT kPainted = RDW_VALIDATE | RDW_NOERASE | RDW_NOFRAME;
 
 }  // namespace
@@ -41,11 +34,21 @@ void NativeWindow::paintGround(HDC dc) {
   fill(dc, area, groundColor(window_.backColor()));
 }
 
+void NativeWindow::print(const Control& control, HDC dc) {
+  const RECT at = areaWithin(handle_, handleOf(control));
+  SetViewportOrgEx(dc, at.left, at.top, nullptr);
+  IntersectClipRect(dc, 0, 0, at.right - at.left, at.bottom - at.top);
+  controls_.at(&control)->paintOn(dc);
+  SelectClipRgn(dc, nullptr);
+  SetViewportOrgEx(dc, 0, 0, nullptr);
+}
+
 void NativeWindow::paintAtOnce() {
   RECT area;
   GetClientRect(handle_, &area);
   HDC screen = GetDCEx(handle_, nullptr, DCX_CACHE);  // not clipped by the controls
   if (HDC picture = stage_.buffer(screen, {area.right, area.bottom})) {
+    const KeepDc keep(picture);
     paintGround(picture);
     RedrawWindow(handle_, nullptr, nullptr, kPainted | RDW_ALLCHILDREN);
     printControls(window_, picture);
@@ -82,6 +85,7 @@ void NativeWindow::paintSoiled() {
   const auto soiled = stage_.takeSoiled();
   HDC screen = GetDCEx(handle_, nullptr, DCX_CACHE);
   if (HDC picture = stage_.buffer(screen, {area.right, area.bottom})) {
+    const KeepDc keep(picture);
     for (const Control* control : soiled) paintControl(*control, picture, screen);
   } else {
     RedrawWindow(handle_, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
@@ -97,12 +101,12 @@ void NativeWindow::paintControl(const Control& control, HDC picture, HDC screen)
     paintTextBox(control, screen);
     return;
   }
+  print(control, picture);
   const RECT at = areaWithin(handle_, window);
-  print(window, picture, at);
-  const KeepDc keep(screen);
   excludeCovered(control, screen);
   BitBlt(screen, at.left, at.top, at.right - at.left, at.bottom - at.top, picture, at.left, at.top,
          SRCCOPY);
+  SelectClipRgn(screen, nullptr);
 }
 
 void NativeWindow::excludeCovered(const Control& control, HDC dc) {
@@ -134,7 +138,7 @@ void NativeWindow::printControl(const Control& control, HDC dc) {
   HWND window = handleOf(control);
   if (!(GetWindowLongW(window, GWL_STYLE) & WS_VISIBLE)) return;
   if (control.kind() == Control::Kind::kTextBox) return;
-  print(window, dc, areaWithin(handle_, window));
+  print(control, dc);
   if (control.kind() == Control::Kind::kFrame) {
     printControls(static_cast<const Frame&>(control), dc);
   }

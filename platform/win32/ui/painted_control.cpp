@@ -71,7 +71,7 @@ LRESULT PaintedControl::onMessage(UINT message, WPARAM first, LPARAM second) {
     case WM_ERASEBKGND:
       return 1;
     case WM_PRINTCLIENT:
-      paintOn(reinterpret_cast<HDC>(first));
+      paintFor(reinterpret_cast<HDC>(first));
       return 0;
     case WM_PAINT:
       paintBuffered();
@@ -89,7 +89,7 @@ LRESULT PaintedControl::onMessage(UINT message, WPARAM first, LPARAM second) {
 std::optional<LRESULT> PaintedControl::notify(const NMHDR& header) {
   if (header.code != static_cast<UINT>(NM_CUSTOMDRAW)) return std::nullopt;
   const auto& draw = reinterpret_cast<const NMCUSTOMDRAW&>(header);
-  if (draw.dwDrawStage == CDDS_PREERASE) paintOn(draw.hdc);
+  if (draw.dwDrawStage == CDDS_PREERASE) paintFor(draw.hdc);
   return CDRF_SKIPDEFAULT;
 }
 
@@ -99,16 +99,20 @@ void PaintedControl::paintBuffered() {
   RECT area;
   GetClientRect(handle(), &area);
   if (HDC buffer = stage().buffer(dc, {area.right, area.bottom})) {
-    paintOn(buffer);
+    paintFor(buffer);
     BitBlt(dc, 0, 0, area.right, area.bottom, buffer, 0, 0, SRCCOPY);
   } else {
-    paintOn(dc);
+    paintFor(dc);
   }
   EndPaint(handle(), &paint);
 }
 
-void PaintedControl::paintOn(HDC dc) {
+void PaintedControl::paintFor(HDC dc) {
   const KeepDc keep(dc);
+  paintOn(dc);
+}
+
+void PaintedControl::paintOn(HDC dc) {
   RECT area;
   GetClientRect(handle(), &area);
   selectFont(dc);
@@ -119,7 +123,8 @@ void PaintedControl::paintOn(HDC dc) {
 /// Free replacements of the Symbol font may lack its arrows; any text font has arrows of its own.
 void PaintedControl::selectFont(HDC dc) {
   const Font& font = model().font();
-  SelectObject(dc, stage().font(font));
+  HFONT wanted = stage().font(font);
+  if (GetCurrentObject(dc, OBJ_FONT) != wanted) SelectObject(dc, wanted);
   caption_ = toWide(model().text());
   if (!isSymbol(font)) return;
   if (fontShows(dc, inSymbolFont(caption_))) {

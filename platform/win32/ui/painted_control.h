@@ -12,6 +12,7 @@ class PaintedControl : public NativeControl {
  public:
   /// It is painted with all others that have changed by then.
   void lookChanged() override { stage().soil(model()); }
+  void paintOn(HDC dc) override;
 
  protected:
   using NativeControl::NativeControl;
@@ -33,7 +34,8 @@ class PaintedControl : public NativeControl {
   bool showsFocus() const;
 
  private:
-  void paintOn(HDC dc);
+  /// Paints for somebody else, who finds the device context as it was.
+  void paintFor(HDC dc);
   void paintBuffered();
   /// Selects the control's font and puts the caption into its characters.
   void selectFont(HDC dc);
