@@ -197,10 +197,14 @@ class FormattedReader {
   [[noreturn]] void refusePlace(std::string_view row) const {
     const ModelPlace& place = data_.places[row_];
     const std::string number = std::to_string(row_ + 1);
-    const std::string known = place.x + ", " + place.y + " " + place.network;
-    const std::string here = std::string(withoutBlanks(RowLayout::x(row))) + ", " +
-                             std::string(withoutBlanks(RowLayout::y(row))) + " " +
-                             std::string(withoutBlanks(layout_->network(row)));
+    const auto inWords = [](std::string_view x, std::string_view y, std::string_view network) {
+      const std::string name(network.empty() ? "" : " ");
+      return std::string(x) + ", " + std::string(y) + name + std::string(network);
+    };
+    const std::string known = inWords(place.x, place.y, place.network);
+    const std::string here =
+        inWords(withoutBlanks(RowLayout::x(row)), withoutBlanks(RowLayout::y(row)),
+                withoutBlanks(layout_->network(row)));
     if (known == here) {
       refuse(" gives receptor " + number + " other heights than line " +
              std::to_string(data_.firstRow + row_) + " does.");

@@ -87,6 +87,7 @@ TEST(ImportRefuses, AFileWithAFault) {
                  "-500.00000, 500.00000 GRD."},
            Fault{put(11, 44, "    9.00"), "line 20 gives receptor 3 other heights than line 11"},
            Fault{put(11, 100, "GRID"), "line 20 has receptor 3 at -500.00000, 500.00000 GRID"},
+           Fault{put(11, 100, "   "), "receptor 3 at -500.00000, 500.00000, but line 11 has it at"},
            Fault{put(9, 90, "10071625"), "line 18: \"10071625\" is no hour"},
            Fault{put(9, 90, "10071601"),
                  "line 19 has receptor 1 at 500.00000, -500.00000 GRD, but line 9"},
