@@ -58,6 +58,7 @@ void expectPainted(HWND window, const char* when) {
 void turnAll(const Container& container) {
   for (Control* child : container.children()) {
     child->setEnabled(!child->enabled());
+    if (child->kind() == Control::Kind::kTextBox) child->setVisible(!child->visible());
     if (child->kind() == Control::Kind::kFrame) turnAll(static_cast<const Frame&>(*child));
   }
 }
@@ -101,6 +102,33 @@ TEST(Appearance, OfAWindowIsThatOfItsControls) {
     });
     window->show();
   }
+}
+
+/// Some versions of Windows have a window's edge painted while it is being shown, and only then.
+LRESULT CALLBACK paintEdgeNow(HWND box, UINT message, WPARAM first, LPARAM second, UINT_PTR,
+                              DWORD_PTR edge) {
+  if (message == WM_WINDOWPOSCHANGED) {
+    HDC dc = GetWindowDC(box);
+    SetPixel(dc, 0, 0, colors::kBlue);
+    DefSubclassProc(box, WM_NCPAINT, 1, 0);
+    *reinterpret_cast<COLORREF*>(edge) = GetPixel(dc, 0, 0);
+    ReleaseDC(box, dc);
+  }
+  return DefSubclassProc(box, message, first, second);
+}
+
+TEST(Appearance, OfATextBoxThatComesBackHasAnEdge) {
+  World world;
+  Form form;
+  form.open([&] {
+    HWND box = nativeHandle(form.box);
+    COLORREF edge = colors::kBlue;
+    form.box.setVisible(false);
+    SetWindowSubclass(box, paintEdgeNow, 0, reinterpret_cast<DWORD_PTR>(&edge));
+    form.box.setVisible(true);
+    EXPECT_NE(edge, COLORREF{colors::kBlue});
+    RemoveWindowSubclass(box, paintEdgeNow, 0);
+  });
 }
 
 std::vector<HWND> tipWindows() {

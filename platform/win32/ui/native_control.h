@@ -50,14 +50,12 @@ class NativeControl {
   void place(POINT origin);
   /// Shows one aspect of the model.
   virtual void refresh(Aspect aspect);
-  /// What the window shows is no longer what it should.
-  virtual void lookChanged() {
-    RedrawWindow(handle_, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME);
-  }
-
-  /// Paints the control, whose top-left corner is the origin, and leaves the font selected: whoever
-  /// has many painted keeps the device context once for all of them, because each change of a font
-  /// takes its time. Does nothing for a text box, which Windows paints.
+  /// What the window shows is no longer what it should. It is painted with all others that have
+  /// changed by then.
+  void lookChanged() { stage_.soil(model_); }
+  /// Paints the control with its top-left corner at the origin. Leaves its font selected: whoever
+  /// has many painted saves and restores the device context once around all of them, because each
+  /// change of font takes time. A text box paints nothing here.
   virtual void paintOn(HDC /*dc*/) {}
 
   /// What Windows asks or tells a control's parent: WM_COMMAND, WM_NOTIFY and WM_CTLCOLOR....

@@ -61,17 +61,17 @@ class NativeWindow : public WindowView {
   /// Paints what has changed since the last time.
   void paintSoiled();
   void paintControl(const Control& control, HDC picture, HDC screen);
-  /// Text boxes are not in that picture: they paint themselves, with an edge that they print
-  /// nowhere.
+  /// Text boxes are in no picture: Windows paints their edge and text, the window their ground. The
+  /// one with the keyboard is left to Windows, which knows whether the caret shows.
   void paintTextBoxes(const Container& container, HDC screen);
   void paintTextBox(const Control& control, HDC screen);
   void contentsChanged(const Frame& frame);
   /// Leaves what lies over a control out of what is painted.
   void excludeCovered(const Control& control, HDC dc);
   /// Paints a control where it lies in the window.
-  void print(const Control& control, HDC dc);
-  void printControls(const Container& container, HDC dc);
-  void printControl(const Control& control, HDC dc);
+  void paintInPlace(const Control& control, HDC dc);
+  void paintAllInto(const Container& container, HDC dc);
+  void paintInto(const Control& control, HDC dc);
   /// Puts the keyboard where the model has it.
   void restoreFocus();
   /// Gives the window the size of its contents, or of the work area if that is smaller, and lays

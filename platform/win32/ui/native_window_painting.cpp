@@ -24,6 +24,7 @@ RECT areaWithin(HWND root, HWND control) {
   return area;
 }
 
+/// Takes back what Windows has noted to be painted.
 constexpr UINT kPainted = RDW_VALIDATE | RDW_NOERASE | RDW_NOFRAME;
 
 }  // namespace
@@ -34,7 +35,7 @@ void NativeWindow::paintGround(HDC dc) {
   fill(dc, area, groundColor(window_.backColor()));
 }
 
-void NativeWindow::print(const Control& control, HDC dc) {
+void NativeWindow::paintInPlace(const Control& control, HDC dc) {
   const RECT at = areaWithin(handle_, handleOf(control));
   SetViewportOrgEx(dc, at.left, at.top, nullptr);
   IntersectClipRect(dc, 0, 0, at.right - at.left, at.bottom - at.top);
@@ -51,9 +52,11 @@ void NativeWindow::paintAtOnce() {
     const KeepDc keep(picture);
     paintGround(picture);
     RedrawWindow(handle_, nullptr, nullptr, kPainted | RDW_ALLCHILDREN);
-    printControls(window_, picture);
+    paintAllInto(window_, picture);
     BitBlt(screen, 0, 0, area.right, area.bottom, picture, 0, 0, SRCCOPY);
     paintTextBoxes(window_, screen);
+  } else {
+    paintGround(screen);
   }
   ReleaseDC(handle_, screen);
 }
@@ -62,19 +65,20 @@ void NativeWindow::paintTextBoxes(const Container& container, HDC screen) {
   for (const Control* child : container.children()) {
     if (!child->visible()) continue;
     if (child->kind() == Control::Kind::kTextBox) paintTextBox(*child, screen);
-    if (child->kind() != Control::Kind::kFrame) continue;
-    paintTextBoxes(static_cast<const Frame&>(*child), screen);
+    if (child->kind() == Control::Kind::kFrame) {
+      paintTextBoxes(static_cast<const Frame&>(*child), screen);
+    }
   }
 }
 
 void NativeWindow::paintTextBox(const Control& control, HDC screen) {
   HWND window = handleOf(control);
   if (&control == window_.focused()) {
-    // Only Windows knows whether the caret shows.
     RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME);
     return;
   }
-  SendMessageW(window, WM_NCPAINT, 1, 0);  // some versions of Windows paint more than the edge
+  // Before the ground: some versions of Windows paint into it with the edge.
+  SendMessageW(window, WM_NCPAINT, 1, 0);
   fill(screen, clientWithin(handle_, window), groundColor(control.backColor()));
   if (!control.text().empty()) RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE);
 }
@@ -88,7 +92,8 @@ void NativeWindow::paintSoiled() {
     const KeepDc keep(picture);
     for (const Control* control : soiled) paintControl(*control, picture, screen);
   } else {
-    RedrawWindow(handle_, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+    RedrawWindow(handle_, nullptr, nullptr,
+                 RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
   }
   ReleaseDC(handle_, screen);
 }
@@ -101,7 +106,7 @@ void NativeWindow::paintControl(const Control& control, HDC picture, HDC screen)
     paintTextBox(control, screen);
     return;
   }
-  print(control, picture);
+  paintInPlace(control, picture);
   const RECT at = areaWithin(handle_, window);
   excludeCovered(control, screen);
   BitBlt(screen, at.left, at.top, at.right - at.left, at.bottom - at.top, picture, at.left, at.top,
@@ -124,23 +129,23 @@ void NativeWindow::excludeCovered(const Control& control, HDC dc) {
   }
 }
 
-void NativeWindow::printControls(const Container& container, HDC dc) {
-  const auto printAll = [&](bool labels) {
+void NativeWindow::paintAllInto(const Container& container, HDC dc) {
+  const auto paintAll = [&](bool labels) {
     for (const Control* child : container.children()) {
-      if ((child->kind() == Control::Kind::kLabel) == labels) printControl(*child, dc);
+      if ((child->kind() == Control::Kind::kLabel) == labels) paintInto(*child, dc);
     }
   };
-  printAll(true);  // a label may reach into its neighbour, behind which it lies
-  printAll(false);
+  paintAll(true);  // a label may reach into its neighbour, behind which it lies
+  paintAll(false);
 }
 
-void NativeWindow::printControl(const Control& control, HDC dc) {
+void NativeWindow::paintInto(const Control& control, HDC dc) {
   HWND window = handleOf(control);
   if (!(GetWindowLongW(window, GWL_STYLE) & WS_VISIBLE)) return;
   if (control.kind() == Control::Kind::kTextBox) return;
-  print(control, dc);
+  paintInPlace(control, dc);
   if (control.kind() == Control::Kind::kFrame) {
-    printControls(static_cast<const Frame&>(control), dc);
+    paintAllInto(static_cast<const Frame&>(control), dc);
   }
 }
 

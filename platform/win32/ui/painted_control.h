@@ -10,8 +10,6 @@ namespace korventally::win32 {
 /// under a visual style. In all else it is Windows' control.
 class PaintedControl : public NativeControl {
  public:
-  /// It is painted with all others that have changed by then.
-  void lookChanged() override { stage().soil(model()); }
   void paintOn(HDC dc) override;
 
  protected:

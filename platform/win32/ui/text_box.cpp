@@ -33,7 +33,7 @@ std::wstring firstLine(std::wstring text) {
   return text;
 }
 
-/// The parts of painting, of which each begins by asking the system what it may paint.
+/// The messages at which a window paints.
 bool paints(UINT message) {
   return message == WM_NCPAINT || message == WM_ERASEBKGND || message == WM_PAINT;
 }
@@ -52,14 +52,14 @@ class NativeTextBox : public NativeControl {
       SendMessageW(handle(), EM_SETSEL, 0, -1);
     } else {
       fromCode_ = true;
+      // A box that appears is painted by Windows, and by nobody else.
+      holdsPainting_ = aspect != Aspect::kVisible;
       NativeControl::refresh(aspect);
-      fromCode_ = false;
+      fromCode_ = holdsPainting_ = false;
     }
     // Whoever goes on typing does so behind the text that was put there.
     if (aspect == Aspect::kText) SendMessageW(handle(), EM_SETSEL, 0x7FFFFFFF, 0x7FFFFFFF);
   }
-
-  void lookChanged() override { stage().soil(model()); }
 
  protected:
   /// The margins are taken from the area that the text has, which is asked for anew.
@@ -70,9 +70,9 @@ class NativeTextBox : public NativeControl {
   }
 
   LRESULT onMessage(UINT message, WPARAM first, LPARAM second) override {
-    // Some versions of Windows paint on the spot what has become usable or not. It is painted with
-    // all others that have changed.
-    if (fromCode_ && paints(message)) return 0;
+    // Some versions of Windows paint at once what the program changes. It is painted later, with
+    // all others that have changed (`lookChanged`).
+    if (holdsPainting_ && paints(message)) return 0;
     switch (message) {
       case WM_CHAR:
         if (!takesCharacter(first)) return 0;
@@ -148,6 +148,7 @@ class NativeTextBox : public NativeControl {
   TextBox& box_;
   TextMargins margins_;
   bool fromCode_ = false;
+  bool holdsPainting_ = false;
 };
 
 }  // namespace

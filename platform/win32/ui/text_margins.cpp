@@ -30,7 +30,8 @@ RECT clientOnScreen(HWND box) {
 
 void TextMargins::takeFrom(RECT& client, HWND box) {
   const int height = client.bottom - client.top;
-  const int spare = std::max(0, height - lineHeight(box) - 2 * kGap);
+  const int line = lineHeight(box);
+  const int spare = line == 0 ? 0 : std::max(0, height - line - 2 * kGap);
   above_ = spare / 2;
   below_ = spare - above_;
   client.top += above_;
