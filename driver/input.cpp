@@ -49,7 +49,7 @@ bool staysSo(const std::function<bool()>& isSo) {
   return true;
 }
 
-/// Sends the input again until the display has put back nothing of it.
+/// Sends the input, again if need be, until the display no longer takes it back.
 void sendUntil(const std::function<bool()>& isSo, const INPUT& input,
                const std::string& expectation) {
   const auto lasts = [&] {
@@ -98,8 +98,14 @@ void clickAt(POINT screen) {
 void pressKey(WORD code, WORD modifier) {
   std::vector<INPUT> inputs{key(code, 0, 0), key(code, 0, KEYEVENTF_KEYUP)};
   if (modifier != 0) {
-    sendUntil([&] { return isHeld(modifier); }, key(modifier, 0, 0), "the modifier is held");
-    inputs.push_back(key(modifier, 0, KEYEVENTF_KEYUP));
+    const INPUT release = key(modifier, 0, KEYEVENTF_KEYUP);
+    try {
+      sendUntil([&] { return isHeld(modifier); }, key(modifier, 0, 0), "the modifier is held");
+    } catch (...) {
+      send({release});
+      throw;
+    }
+    inputs.push_back(release);
   }
   send(inputs);
 }
