@@ -9,6 +9,8 @@ logs=$build/logs
 mkdir -p "$logs"
 cd "$root"
 
+# Sanitizers and fuzzers, and what tells the lines that they speak of.
+sanitizer_packages=(clang libclang-rt-14-dev llvm)
 build_packages=(cmake ninja-build g++ g++-mingw-w64-x86-64-posix googletest)
 # Wine draws buttons and arrows with fonts that its own package only recommends.
 desktop_packages=(wine wine64 fonts-wine fonts-liberation xvfb imagemagick)
@@ -56,11 +58,11 @@ need_packages() {
   [ ${#missing[@]} = 0 ] || stage "Installing ${missing[*]}" install install_packages "${missing[@]}"
 }
 
-# Builds a preset's targets. It is configured once; afterwards ninja itself sees when that has to be
-# done again.
+# Builds a preset's targets. Once it is configured, ninja itself sees when that has to be done again,
+# but for a change of the presets.
 build_preset() { # preset, targets...
   local folder=$build/$1
-  [ -f "$folder/build.ninja" ] || cmake --preset "$1"
+  [ "$folder/build.ninja" -nt CMakePresets.json ] || cmake --fresh --preset "$1"
   ninja -C "$folder" "${@:2}"
 }
 
@@ -127,7 +129,10 @@ display_pid=
 leave() {
   if [ -n "$own_prefix" ]; then wineserver -k 2>/dev/null || true; fi
   if [ -n "$display_pid" ]; then kill "$display_pid" 2>/dev/null || true; fi
-  jobs -p | sed 's/^/-/' | xargs -r kill -- 2>/dev/null || true
+  local job
+  for job in $(jobs -p); do # a group of processes, or one
+    kill -- "-$job" 2>/dev/null || kill "$job" 2>/dev/null || true
+  done
   own_prefix=
   display_pid=
   last_words
