@@ -2,7 +2,6 @@
 
 #include <new>
 
-#include "platform/events.h"
 #include "platform/later.h"
 #include "tests/run/run_summary.h"
 

@@ -1,4 +1,8 @@
-#include "platform/later.h"
+#include <cstdint>
+#include <string>
+#include <utility>
+#include <vector>
+
 #include "tests/run/run_summary.h"
 
 // What becomes of a run whose verdict does not come.
