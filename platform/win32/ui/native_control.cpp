@@ -46,10 +46,10 @@ bool asksForColor(UINT message) {
 }  // namespace
 
 NativeControl::NativeControl(Control& model, const Site& site, const wchar_t* windowClass,
-                             DWORD style, DWORD extendedStyle)
+                             DWORD style, DWORD extendedStyle, DWORD visible)
     : model_(model), stage_(site.stage) {
   style |= WS_CHILD;
-  if (model.visible()) style |= WS_VISIBLE;
+  if (model.visible()) style |= visible;
   if (!model.enabled()) style |= WS_DISABLED;
   const Pixels at = inPixels(model.place(), stage_);
   handle_ = CreateWindowExW(extendedStyle, windowClass, toWide(model.text()).c_str(), style,

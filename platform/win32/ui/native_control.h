@@ -63,8 +63,10 @@ class NativeControl {
   static std::optional<LRESULT> reflect(UINT message, WPARAM first, LPARAM second);
 
  protected:
+  /// `visible` is the style of a visible model's window: none for one that shows itself when it has
+  /// been attached.
   NativeControl(Control& model, const Site& site, const wchar_t* windowClass, DWORD style,
-                DWORD extendedStyle = 0);
+                DWORD extendedStyle = 0, DWORD visible = WS_VISIBLE);
 
   /// The window's messages are seen from here on: shows what its creation did not.
   virtual void attached();

@@ -42,7 +42,7 @@ class NativeTextBox : public NativeControl {
  public:
   NativeTextBox(TextBox& model, const Site& site)
       : NativeControl(model, site, L"EDIT", ES_AUTOHSCROLL | WS_TABSTOP,
-                      WS_EX_CLIENTEDGE | (model.takesPath() ? WS_EX_ACCEPTFILES : 0)),
+                      WS_EX_CLIENTEDGE | (model.takesPath() ? WS_EX_ACCEPTFILES : 0), 0),
         box_(model) {
     SendMessageW(handle(), EM_LIMITTEXT, static_cast<WPARAM>(model.limit()), 0);
   }
@@ -62,11 +62,13 @@ class NativeTextBox : public NativeControl {
   }
 
  protected:
-  /// The margins are taken from the area that the text has, which is asked for anew.
+  /// The margins are taken from the area that the text has, which is asked for anew. The box is
+  /// shown by the same call.
   void attached() override {
     NativeControl::attached();
+    const UINT show = box_.visible() ? SWP_SHOWWINDOW : 0;
     SetWindowPos(handle(), nullptr, 0, 0, 0, 0,
-                 SWP_FRAMECHANGED | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+                 show | SWP_FRAMECHANGED | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
   }
 
   LRESULT onMessage(UINT message, WPARAM first, LPARAM second) override {
