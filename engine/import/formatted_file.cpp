@@ -198,8 +198,8 @@ class FormattedReader {
     const ModelPlace& place = data_.places[row_];
     const std::string number = std::to_string(row_ + 1);
     const auto inWords = [](std::string_view x, std::string_view y, std::string_view network) {
-      const std::string name(network.empty() ? "" : " ");
-      return std::string(x) + ", " + std::string(y) + name + std::string(network);
+      const std::string gap(network.empty() ? "" : " ");
+      return std::string(x) + ", " + std::string(y) + gap + std::string(network);
     };
     const std::string known = inWords(place.x, place.y, place.network);
     const std::string here =
